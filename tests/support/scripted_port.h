@@ -1,0 +1,71 @@
+// A serial port that follows a script to the letter: a member that the script does not have next is
+// a failure of the test, and so is what is left of the script at the end.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <string>
+
+#include "device/serial_port.h"
+
+namespace keplin::test {
+
+class ScriptedPort : public SerialPort {
+  public:
+    ~ScriptedPort() override { EXPECT_TRUE(script_.empty()) << "left: " << script_.front().call; }
+
+    // The next member called must be `call`, and gives `result`.
+    ScriptedPort& Expect(std::string call, std::int32_t result = 0) {
+        script_.push_back({std::move(call), result, false});
+        return *this;
+    }
+    // The next member called must be `call`, and fails.
+    ScriptedPort& Fail(std::string call) {
+        script_.push_back({std::move(call), 0, true});
+        return *this;
+    }
+    ScriptedPort& ExpectDiscardStep() { return Expect("Setting47 -1").Expect("DiscardInput"); }
+    ScriptedPort& ExpectReads(std::string_view bytes) {
+        for (const char byte : bytes)
+            Expect("ReadByte", static_cast<unsigned char>(byte));
+        return *this;
+    }
+
+    void PortNumber(std::int32_t number) override { Play("PortNumber " + std::to_string(number)); }
+    void LineSpeed(std::int32_t speed) override { Play("LineSpeed " + std::to_string(speed)); }
+    void Setting3(std::int32_t value) override { Play("Setting3 " + std::to_string(value)); }
+    void Setting47(std::int32_t value) override { Play("Setting47 " + std::to_string(value)); }
+    std::int32_t Open() override { return Play("Open"); }
+    std::int32_t Close() override { return Play("Close"); }
+    std::int32_t ReadByte() override { return Play("ReadByte"); }
+    void WriteByte(std::uint8_t byte) override { Play("WriteByte " + std::to_string(byte)); }
+    void DiscardInput() override { Play("DiscardInput"); }
+    void WriteText(std::string_view text) override { Play("WriteText " + std::string(text)); }
+    [[nodiscard]] bool LineLost() const override { return Lost; }
+
+    bool Lost = false;
+
+  private:
+    struct Step {
+        std::string call;
+        std::int32_t result;
+        bool fails;
+    };
+
+    std::int32_t Play(const std::string& call) {
+        if (script_.empty() || script_.front().call != call) {
+            ADD_FAILURE() << "called: " << call << ", expected: "
+                          << (script_.empty() ? "nothing more" : script_.front().call);
+            return -1;
+        }
+        const Step step = script_.front();
+        script_.pop_front();
+        if (step.fails) throw PortError(call);
+        return step.result;
+    }
+
+    std::deque<Step> script_;
+};
+
+}  // namespace keplin::test

@@ -1,0 +1,96 @@
+// The desktop on a virtual clock: a sleep takes no time, and whatever a test wants to happen while
+// the window processes its events happens in a yield.
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "platform/desktop.h"
+#include "tests/support/trace.h"
+#include "ui/isp_main.h"
+
+namespace keplin::test {
+
+// Thrown in place of the end of the program.
+struct ProgramEnded {};
+
+using Microseconds = std::chrono::microseconds;
+
+class VirtualDesktop : public Desktop {
+  public:
+    VirtualDesktop(ISPMain& window, Trace& trace) : window_(window), trace_(trace) {}
+
+    void Yield() override {
+        ++Yields;
+        trace_.Add("Yield");
+        if (OnYield) OnYield();
+        if (!NextArrival) Clock += Idle;
+        if (std::exchange(MayWait, false)) Clock = std::max(Clock, NextArrival());
+        if (Ticks && Clock >= nextTick_) {
+            nextTick_ = Clock + std::chrono::milliseconds(window_.Timer1.Interval);
+            window_.Timer1.Tick();
+        }
+    }
+
+    void Sleep(std::chrono::milliseconds duration) override {
+        trace_.Add("Sleep " + std::to_string(duration.count()));
+        Clock += duration;
+        Slept += duration;
+    }
+
+    std::chrono::milliseconds Now() override {
+        return std::chrono::duration_cast<std::chrono::milliseconds>(Clock);
+    }
+
+    std::optional<std::string> ShowOpen(const OpenFileRequest& request) override {
+        trace_.Add("ShowOpen " + request.filter);
+        return Answer;
+    }
+
+    std::string CurrentDirectory() override { return "/current"; }
+
+    std::uint64_t FileLength(const std::string& path) override {
+        if (FactsFail) throw std::runtime_error("no facts");
+        return std::filesystem::file_size(path);
+    }
+
+    std::string FileDateTime(const std::string&) override { return "11/22/26 9:41 PM"; }
+
+    void KeepAwake(bool awake) override {
+        AwakeTwice = AwakeTwice || (awake && Awake);
+        Awake = awake;
+    }
+
+    [[noreturn]] void End() override {
+        trace_.Add("End");
+        throw ProgramEnded{};
+    }
+
+    // Something outside happened, a transmission for instance.
+    void Log(std::string line) { trace_.Add(std::move(line)); }
+
+    Microseconds Clock{0};
+    Microseconds Idle{2000};  // the longest that one yield waits while nothing happens
+    std::chrono::milliseconds Slept{0};
+    long Yields = 0;
+    bool Ticks = true;  // of the window's timer
+    bool Awake = false;
+    bool AwakeTwice = false;  // it was to be kept awake while it already was
+    bool MayWait = false;     // the last read gave nothing: the next yield waits for what comes
+    bool FactsFail = false;
+    std::optional<std::string> Answer;          // of the open-file dialog; none: cancelled
+    std::function<void()> OnYield;              // clicks, for instance
+    std::function<Microseconds()> NextArrival;  // when a yield that waits ends
+
+  private:
+    ISPMain& window_;
+    Trace& trace_;
+    Microseconds nextTick_{0};
+};
+
+}  // namespace keplin::test

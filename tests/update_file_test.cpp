@@ -1,0 +1,181 @@
+#include "update/update_file.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/temporary_file.h"
+#include "tests/support/virtual_desktop.h"
+#include "update/line_reader.h"
+#include "update/line_sum.h"
+
+namespace keplin::test {
+namespace {
+
+struct UpdateFileTest : testing::Test {
+    ISPMain window;
+    Trace trace;
+    VirtualDesktop desktop{window, trace};
+    UpdateFile file{window, desktop};
+    std::string path;  // of the file loaded last
+
+    bool Load(std::string_view contents) {
+        const TemporaryFile temporary(contents);
+        path = temporary.Path();
+        desktop.Answer = path;
+        return file.LoadUpdateFile();
+    }
+    std::string Checksum() { return window.StatusBar2.Panels(3).Text; }
+    std::string Lines() { return window.StatusBar1.Panels(2).Text; }
+};
+
+std::string Repeat(std::string_view text, int times) {
+    std::string all;
+    for (int i = 0; i < times; ++i)
+        all += text;
+    return all;
+}
+
+TEST_F(UpdateFileTest, ShowsTheFactsInOrderAndYieldsBetweenThem) {
+    ShowPage(window.PicProgram);
+    window.Observe(&trace);
+    ASSERT_TRUE(Load(":0400000001020304F2\r\n:00000001FF\r\n"));
+    EXPECT_EQ(file.LineCount, 2);
+    EXPECT_EQ(file.HexLines[0], ":0400000001020304F2");
+    EXPECT_EQ(file.HexLines[1], ":00000001FF");
+    EXPECT_EQ(trace.Take(),
+              "lblPrg(0).Caption = \"1. Verify the Filename listed at the bottom of this program "
+              "window is correct.\"\n"
+              "lblPrg(1).Caption = \"2. If OK, click the Update QDX-470 button to begin "
+              "installing the new update.\"\n"
+              "lblPrg(2).Caption = \"3. Observe below and verify the Erase process completes "
+              "without any failures.\"\n"
+              "Yield\n"
+              "ShowOpen QDX-470 Files (*.HEX)|*.HEX\n"
+              "StatusBar1.Panels(1).Text = \" " +
+                  path +
+                  "\"\nYield\n"
+                  "StatusBar2.Panels(1).Text = \" File Size: 34     Hex: 22\"\nYield\n"
+                  "StatusBar2.Panels(2).Text = \" Created 11/22/26 9:41 PM\"\nYield\n"
+                  "StatusBar1.Panels(2).Text = \" Number of Lines: 2  \"\n"
+                  "StatusBar2.Panels(3).Text = \"Checksum: A\"\nYield\n");
+    EXPECT_EQ(window.CommonDialog1.title, "Select file to Upload");
+    EXPECT_EQ(window.CommonDialog1.initialDirectory, "/current");
+}
+
+TEST_F(UpdateFileTest, LinesEndAtACarriageReturnAndNowhereElse) {
+    using Lines = std::vector<std::string>;
+    const std::pair<std::string, Lines> cases[] = {
+        {"", {}},
+        {"a", {"a"}},
+        {"a\r", {"a"}},
+        {"a\r\n", {"a"}},
+        {"a\rb\r\n", {"a", "b"}},
+        {"a\nb\nc", {"a\nb\nc"}},
+        {"a\r\n\nb", {"a", "\nb"}},
+        {"\r\r\n\r", {"", "", ""}},
+        {std::string("\0\x80\xFF\r\n:", 6), {std::string("\0\x80\xFF", 3), ":"}},
+        {Repeat("x", 65535) + "\r\ny\r", {Repeat("x", 65535), "y"}},  // the end of a block
+    };
+    for (const auto& [contents, lines] : cases) {
+        file.HexLines.assign(UpdateFile::kSlots, "");
+        ASSERT_TRUE(Load(contents));
+        EXPECT_EQ(file.LineCount, static_cast<int>(lines.size())) << contents.substr(0, 20);
+        EXPECT_EQ(Lines(file.HexLines.begin(), file.HexLines.begin() + file.LineCount), lines);
+    }
+}
+
+TEST_F(UpdateFileTest, HoldsTenThousandAndOneLinesAndNotOneMore) {
+    ASSERT_TRUE(Load(Repeat(":00000001FF\r", 10001)));
+    EXPECT_EQ(file.LineCount, 10001);
+    EXPECT_EQ(Lines(), " Number of Lines: 10001  ");
+
+    window.StatusBar1.Panels(2).Text = "earlier";
+    EXPECT_FALSE(Load(Repeat(":01\r", 10001) + "\r"));
+    EXPECT_EQ(file.LineCount, 10001);
+    EXPECT_EQ(file.HexLines[10000], ":01");
+    EXPECT_EQ(Lines(), "earlier");
+}
+
+TEST_F(UpdateFileTest, ChecksumIsTheSumOfTheDataBytesOfAllLines) {
+    const std::pair<std::string, const char*> cases[] = {
+        {"", "0"},
+        {"x\rx\r\r", "FFFFFFFD"},
+        {":", "0"},
+        {":02000000ff0AF5\r", "A"},  // lower-case digits count nothing
+        {":01000000aBF5\r", "B"},
+        {":1a000000" + Repeat("01", 26), "10"},  // read as a count of 16
+        {":03000000010203F7", "6"},
+        {":05000000010203F7", "FD"},  // the record's own checksum byte, then nothing
+        {":01000000010203F7", "1"},
+        {":80000000" + Repeat("FF", 128), "7F80"},
+    };
+    for (const auto& [contents, sum] : cases) {
+        ASSERT_TRUE(Load(contents)) << contents;
+        EXPECT_EQ(Checksum(), std::string("Checksum: ") + sum) << contents;
+    }
+}
+
+TEST_F(UpdateFileTest, ALineThatSumsAboveSixteenBitsEndsTheLoad) {
+    ASSERT_TRUE(Load(":81000000" + Repeat("FF", 128) + "7F"));
+    EXPECT_EQ(Checksum(), "Checksum: 7FFF");
+    EXPECT_FALSE(Load("first\r:81000000" + Repeat("FF", 128) + "80\rthird"));
+    EXPECT_EQ(file.HexLines[0], "first");
+    EXPECT_TRUE(file.HexLines[1].starts_with(":81"));  // stored before it was summed
+    EXPECT_EQ(file.HexLines[2], "");
+    EXPECT_EQ(Checksum(), "Checksum: 7FFF");
+    EXPECT_EQ(file.LineCount, 1);
+}
+
+TEST_F(UpdateFileTest, ALoadThatFailsKeepsWhatWasShownBefore) {
+    desktop.Answer = std::nullopt;
+    EXPECT_FALSE(file.LoadUpdateFile());
+    for (const char* notAFile : {"/", "/dev/zero", "/nowhere/at all", ""}) {
+        desktop.Answer = notAFile;
+        EXPECT_FALSE(file.LoadUpdateFile()) << notAFile;
+        EXPECT_EQ(window.StatusBar1.Panels(1).Text.Get(), "") << notAFile;
+    }
+    desktop.FactsFail = true;
+    EXPECT_FALSE(Load("x"));
+    EXPECT_EQ(window.StatusBar1.Panels(1).Text.Get(), " " + path);
+    EXPECT_EQ(window.StatusBar2.Panels(1).Text.Get(), "");
+}
+
+// A disk that fails in the middle of the file.
+class FailingBuffer : public std::streambuf {
+  protected:
+    std::streamsize xsgetn(char* to, std::streamsize count) override {
+        if (given_) throw std::runtime_error("read error");
+        given_ = true;
+        std::fill_n(to, count, '\r');
+        return count;
+    }
+
+  private:
+    bool given_ = false;
+};
+
+TEST(LineReaderTest, AReadErrorIsNoEndOfTheFile) {
+    FailingBuffer buffer;
+    std::istream stream(&buffer);
+    LineReader reader(stream);
+    int lines = 0;
+    EXPECT_THROW(
+        while (!reader.AtEnd()) {
+            reader.ReadLine();
+            ++lines;
+        },
+        std::runtime_error);
+    EXPECT_EQ(lines, 65536);
+}
+
+TEST(LineSum, DigitsAreUpperCaseAndMissingOnesCountNothing) {
+    EXPECT_EQ(HexByteValue("7"), 112);
+    EXPECT_EQ(HexByteValue(""), 0);
+    EXPECT_EQ(HexByteValue("FF9"), 255);
+    EXPECT_EQ(HexByteValue("g1"), 1);
+    EXPECT_EQ(HexDigitValue("F"), 15);
+    for (const char* none : {"f", "G", "@", ":", "/", "", "1F"})
+        EXPECT_EQ(HexDigitValue(none), 0);
+}
+
+}  // namespace
+}  // namespace keplin::test

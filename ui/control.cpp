@@ -1,0 +1,28 @@
+#include "ui/control.h"
+
+#include <utility>
+
+namespace keplin {
+
+Control::Control(ControlList& list, const Control* container, std::string name, Place place)
+    : Name(std::move(name)),
+      Container(container),
+      Width(place.width),
+      Visible(*this, Aspect::Visible, true),
+      Enabled(*this, Aspect::Enabled, true),
+      Left(*this, Aspect::Left, place.left),
+      Top(*this, Aspect::Top, place.top),
+      Height(*this, Aspect::Height, place.height),
+      list_(list) {
+    list.controls_.push_back(this);
+}
+
+bool Control::Shown() const {
+    return Visible && (Container == nullptr || Container->Shown());
+}
+
+void TellObserver(const Control& owner, Aspect aspect) {
+    if (Observer* observer = owner.list_.observer_) observer->Changed(owner, aspect);
+}
+
+}  // namespace keplin

@@ -1,0 +1,71 @@
+// The one window of the program as data: every control under its design name, with the place, the
+// size, the colours and the text that it has before anything happens.
+#pragma once
+
+#include <array>
+
+#include "platform/desktop.h"
+#include "ui/controls.h"
+
+namespace keplin {
+
+// Where a page stands while it is shown, in twips; its design place serves only while it is hidden.
+inline constexpr float kShownPageLeft = 120;
+inline constexpr float kShownPageTop = 840;
+
+class ISPMain : public ControlList {
+  public:
+    ISPMain();
+
+    Form Window;
+
+    // Directly on the window.
+    Label Label7;
+    Label Label8;
+    Label Label9;
+    Picture Image1;
+    Page PicGettingStarted;
+    Page PicSetup;
+    Page PicProgram;
+    Shape Shape1;  // the activity track
+    Shape Shape2;  // the activity block
+    Button cmdExit;
+    StatusBar StatusBar1;
+    StatusBar StatusBar2;
+    Timer Timer1;
+    OpenFileRequest CommonDialog1;
+
+    // On the getting-started page.
+    Frame Frame3;
+    Label LblGetStarted0;
+    Picture Image2;
+    Label LblGetStarted4;
+    Button Next_1;
+
+    // On the setup page.
+    Frame Frame1;
+    Label Label1;
+    Label Label2;
+    Label Label3;
+    Label Label4;
+    Label Label5;
+    Button cmdPortTest;
+    Label lblResults;
+    Button Next_2;
+
+    // On the programming page.
+    Frame Frame2;
+    std::array<Label, 4> lblPrg;
+    Button Command1;
+    Label Label10;
+    Label lblPrgm;
+    ProgressBar ProgressBar1;
+
+    // The activity block travels to the left.
+    bool MovingLeft = false;
+};
+
+// Moves a page to the place of the shown page and shows it.
+void ShowPage(Page& page);
+
+}  // namespace keplin

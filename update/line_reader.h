@@ -1,0 +1,33 @@
+// Reads a text file line by line.
+#pragma once
+
+#include <array>
+#include <istream>
+#include <span>
+#include <string>
+
+namespace keplin {
+
+// A line ends at a carriage return followed by a line feed, or at a carriage return alone; a line
+// feed by itself belongs to the line. The last line needs no end. Bytes pass unchanged.
+class LineReader {
+  public:
+    // `file` must outlive the reader.
+    explicit LineReader(std::istream& file) : file_(file) {}
+
+    // Whether every line has been read. Throws std::runtime_error when the file cannot be read.
+    bool AtEnd();
+
+    // The next line without its end. Only while not AtEnd. Throws as above.
+    std::string ReadLine();
+
+  private:
+    void ReadBlockIfEmpty();
+
+    std::istream& file_;
+    std::array<char, 65536> block_{};
+    std::span<const char> unread_;
+    bool afterReturn_ = false;  // a line feed that comes next belongs to the end of the last line
+};
+
+}  // namespace keplin

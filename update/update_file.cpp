@@ -1,0 +1,98 @@
+#include "update/update_file.h"
+
+#include <filesystem>
+#include <stdexcept>
+
+#include "device/int16.h"
+#include "ui/program_instructions.h"
+#include "update/line_reader.h"
+#include "update/line_sum.h"
+
+namespace keplin {
+namespace {
+
+// Upper-case digits without leading zeros, "0" for zero.
+std::string Hex(std::uint64_t number) {
+    std::string text;
+    do {
+        text.insert(text.begin(), "0123456789ABCDEF"[number % 16]);
+        number /= 16;
+    } while (number > 0);
+    return text;
+}
+
+std::int32_t Add(std::int32_t total, std::int16_t sum) {
+    std::int32_t result = 0;
+    if (__builtin_add_overflow(total, sum, &result)) throw std::overflow_error("32 bits");
+    return result;
+}
+
+}  // namespace
+
+bool UpdateFile::LoadUpdateFile() {
+    try {
+        ShowProgramInstructions(window_, desktop_);
+        const std::string path = ChooseFile();
+        OpenForReading(path);
+        ShowFacts(path);
+        const Contents contents = ReadLines();
+        ShowContents(contents);
+        LineCount = contents.lines;
+        file_.close();
+        return true;
+    } catch (const std::exception&) {  // the page that does not come tells the technician
+        return false;
+    }
+}
+
+std::string UpdateFile::ChooseFile() {
+    window_.CommonDialog1 = {
+        .filter = "QDX-470 Files (*.HEX)|*.HEX",
+        .title = "Select file to Upload",
+        .initialDirectory = desktop_.CurrentDirectory(),
+        .hideReadOnly = true,
+    };
+    const auto path = desktop_.ShowOpen(window_.CommonDialog1);
+    if (!path) throw std::runtime_error("cancelled");
+    return *path;
+}
+
+// Only a regular file has an end: a pipe or a device would keep the window waiting for ever.
+void UpdateFile::OpenForReading(const std::string& path) {
+    if (std::filesystem::is_regular_file(path)) file_.open(path, std::ios::binary);
+    if (!file_.is_open()) throw std::runtime_error("cannot open");
+}
+
+void UpdateFile::ShowFacts(const std::string& path) {
+    window_.StatusBar1.Panels(1).Text = " " + path;
+    desktop_.Yield();
+    const std::uint64_t length = desktop_.FileLength(path);
+    window_.StatusBar2.Panels(1).Text =
+        " File Size: " + std::to_string(length) + "     Hex: " + Hex(length);
+    desktop_.Yield();
+    window_.StatusBar2.Panels(2).Text = " Created " + desktop_.FileDateTime(path);
+    desktop_.Yield();
+}
+
+UpdateFile::Contents UpdateFile::ReadLines() {
+    Contents contents;
+    LineReader reader(file_);
+    while (!reader.AtEnd()) {
+        std::string line = reader.ReadLine();
+        const auto slot = static_cast<std::size_t>(contents.lines);
+        HexLines.at(slot) = std::move(line);
+        contents.sum = Add(contents.sum, LineDataSum(HexLines[slot]));
+        contents.lines = ToInt16(contents.lines + 1);
+    }
+    return contents;
+}
+
+void UpdateFile::ShowContents(const Contents& contents) {
+    window_.StatusBar1.Panels(2).Text =
+        " Number of Lines: " + std::to_string(contents.lines) + "  ";
+    window_.StatusBar2.Panels(3).Text =
+        "Checksum: " + Hex(static_cast<std::uint32_t>(contents.sum));
+    desktop_.Yield();
+}
+
+}  // namespace keplin
