@@ -1,0 +1,68 @@
+#include "device/port_list.h"
+
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+namespace keplin {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The number behind the prefix; nothing when the name has another prefix or no plain number.
+std::optional<std::uint32_t> NumberOf(std::string_view name, std::string_view prefix) {
+    if (!name.starts_with(prefix)) return std::nullopt;
+    const auto digits = name.substr(prefix.size());
+    std::uint32_t number = 0;
+    const auto* const end = digits.data() + digits.size();
+    const auto [stop, error] = std::from_chars(digits.data(), end, number);
+    if (error != std::errc{} || stop != end) return std::nullopt;
+    return number;
+}
+
+// The kernel keeps names ready for ports that the board does not have; their type is 0.
+bool HasHardware(const fs::path& ttyClassFolder, const std::string& name) {
+    std::ifstream file(ttyClassFolder / name / "type");
+    int type = 0;
+    return file >> type && type != 0;
+}
+
+std::map<std::uint32_t, std::string> NamesByNumber(const fs::path& folder,
+                                                   std::string_view prefix) {
+    std::map<std::uint32_t, std::string> names;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; entry != end; entry.increment(error)) {
+        auto name = entry->path().filename().string();
+        if (const auto number = NumberOf(name, prefix)) names.emplace(*number, std::move(name));
+    }
+    return names;
+}
+
+}  // namespace
+
+std::vector<std::string> ComputerPorts(const fs::path& deviceFolder,
+                                       const fs::path& ttyClassFolder) {
+    std::vector<std::string> ports;
+    for (const std::string_view prefix : {"ttyUSB", "ttyACM", "ttyS"}) {
+        for (const auto& [number, name] : NamesByNumber(deviceFolder, prefix)) {
+            if (prefix == "ttyS" && !HasHardware(ttyClassFolder, name)) continue;
+            ports.push_back((deviceFolder / name).string());
+        }
+    }
+    return ports;
+}
+
+DevicePaths NumberedComputerPorts(const fs::path& deviceFolder, const fs::path& ttyClassFolder) {
+    return [deviceFolder, ttyClassFolder](std::int32_t number) -> std::string {
+        const auto ports = ComputerPorts(deviceFolder, ttyClassFolder);
+        if (number < 1 || static_cast<std::size_t>(number) > ports.size()) return {};
+        return ports[static_cast<std::size_t>(number) - 1];
+    };
+}
+
+}  // namespace keplin

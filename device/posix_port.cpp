@@ -1,0 +1,209 @@
+#include "device/posix_port.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <optional>
+#include <utility>
+
+namespace keplin {
+namespace {
+
+using std::chrono::steady_clock;
+
+// A record of 43 characters takes 11 ms at 38400 bit/s: a line that needs longer than this is
+// stuck.
+constexpr std::chrono::milliseconds kWriteBound{500};
+
+struct StandardSpeed {
+    std::int32_t bitsPerSecond;
+    speed_t code;
+};
+
+constexpr std::array kStandardSpeeds{
+    StandardSpeed{1200, B1200},   StandardSpeed{2400, B2400},     StandardSpeed{4800, B4800},
+    StandardSpeed{9600, B9600},   StandardSpeed{19200, B19200},   StandardSpeed{38400, B38400},
+    StandardSpeed{57600, B57600}, StandardSpeed{115200, B115200}, StandardSpeed{230400, B230400},
+};
+
+std::optional<speed_t> SpeedCode(std::int32_t bitsPerSecond) {
+    for (const auto& speed : kStandardSpeeds) {
+        if (speed.bitsPerSecond == bitsPerSecond) return speed.code;
+    }
+    return std::nullopt;
+}
+
+bool HasModemLines(int line) {
+    int modemLines = 0;
+    return ioctl(line, TIOCMGET, &modemLines) == 0;
+}
+
+// Keeps other programs out while this one talks to a controller.
+bool Claim(int line) {
+    if (flock(line, LOCK_EX | LOCK_NB) != 0) return false;
+    // The lock stops only programs that ask for it, this one stops the others. Not on a
+    // pseudo-terminal: there it would outlast this descriptor.
+    if (HasModemLines(line)) ioctl(line, TIOCEXCL);
+    return true;
+}
+
+constexpr tcflag_t kInputFlags =
+    IGNBRK | BRKINT | PARMRK | ISTRIP | INLCR | IGNCR | ICRNL | IXON | IXOFF | IXANY | INPCK;
+constexpr tcflag_t kOutputFlags = OPOST;
+constexpr tcflag_t kLocalFlags = ECHO | ECHONL | ICANON | ISIG | IEXTEN;
+constexpr tcflag_t kFramingFlags = CSIZE | CSTOPB | PARENB | PARODD | CRTSCTS | CLOCAL | CREAD;
+
+termios RawSettings(termios settings, speed_t speed) {
+    cfmakeraw(&settings);
+    settings.c_iflag &= ~kInputFlags;
+    settings.c_cflag &= ~(tcflag_t{CSTOPB} | PARODD | CRTSCTS);
+    settings.c_cflag |= CLOCAL | CREAD;
+    settings.c_cc[VMIN] = 1;
+    settings.c_cc[VTIME] = 0;
+    cfsetispeed(&settings, speed);
+    cfsetospeed(&settings, speed);
+    return settings;
+}
+
+// Whether the settings agree in all that decides which bytes pass. A driver may differ elsewhere.
+bool Agree(const termios& one, const termios& other) {
+    const auto same = [](tcflag_t a, tcflag_t b, tcflag_t flags) { return ((a ^ b) & flags) == 0; };
+    return same(one.c_iflag, other.c_iflag, kInputFlags) &&
+           same(one.c_oflag, other.c_oflag, kOutputFlags) &&
+           same(one.c_lflag, other.c_lflag, kLocalFlags) &&
+           same(one.c_cflag, other.c_cflag, kFramingFlags) && one.c_cc[VMIN] == other.c_cc[VMIN] &&
+           one.c_cc[VTIME] == other.c_cc[VTIME] && cfgetispeed(&one) == cfgetispeed(&other) &&
+           cfgetospeed(&one) == cfgetospeed(&other);
+}
+
+bool Configure(int line, speed_t speed) {
+    termios found{};
+    if (tcgetattr(line, &found) != 0) return false;
+    const termios wanted = RawSettings(found, speed);
+    // Setting them succeeds as soon as the driver took one of them: only reading back tells.
+    return tcsetattr(line, TCSANOW, &wanted) == 0 && tcgetattr(line, &found) == 0 &&
+           Agree(wanted, found);
+}
+
+UniqueFd OpenDevice(const std::string& path, std::int32_t bitsPerSecond) {
+    const auto speed = SpeedCode(bitsPerSecond);
+    if (!speed) return {};
+    // Without O_NONBLOCK the opening would wait for a carrier that a three-wire cable never shows.
+    UniqueFd line{::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)};
+    const bool usable = line && Claim(line.Get()) && Configure(line.Get(), *speed) &&
+                        tcflush(line.Get(), TCIFLUSH) == 0;
+    return usable ? std::move(line) : UniqueFd{};
+}
+
+bool IsPassing(int error) {
+    return error == EAGAIN || error == EINTR;
+}
+
+}  // namespace
+
+PosixPort::PosixPort(DevicePaths devicePaths) : devicePaths_(std::move(devicePaths)) {}
+
+PosixPort::~PosixPort() {
+    CloseLine();
+}
+
+std::int32_t PosixPort::Open() {
+    Close();
+    path_ = devicePaths_(portNumber_);
+    speed_ = lineSpeed_;
+    return OpenLine() ? 1 : 0;
+}
+
+bool PosixPort::OpenLine() {
+    line_ = OpenDevice(path_, speed_);
+    if (!line_) return false;
+    lost_ = false;
+    idle_ = true;
+    return true;
+}
+
+std::int32_t PosixPort::Close() {
+    CloseLine();
+    lost_ = false;
+    return 0;
+}
+
+void PosixPort::CloseLine() noexcept {
+    if (!line_) return;
+    // Closing waits for what is still to be sent, half a minute on an adapter that is stuck.
+    tcflush(line_.Get(), TCOFLUSH);
+    line_.Reset();
+}
+
+void PosixPort::LoseLine() noexcept {
+    // At once: as long as a descriptor is open, the adapter gets another name when it comes back.
+    CloseLine();
+    lost_ = true;
+}
+
+std::int32_t PosixPort::ReadByte() {
+    if (!line_) return -1;
+    std::uint8_t byte = 0;
+    const auto count = ::read(line_.Get(), &byte, 1);
+    idle_ = count != 1;
+    if (count == 1) return byte;
+    // In raw mode an idle line says EAGAIN; 0 bytes is how a line that hung up reads.
+    if (count == 0 || !IsPassing(errno)) LoseLine();
+    return -1;
+}
+
+void PosixPort::WriteByte(std::uint8_t byte) {
+    if (lost_ && !OpenLine()) throw PortError("the line is lost");
+    const char character = static_cast<char>(byte);
+    Write({&character, 1});
+}
+
+void PosixPort::WriteText(std::string_view text) {
+    Write(text);
+}
+
+void PosixPort::Write(std::string_view bytes) {
+    if (!line_) throw PortError(lost_ ? "the line is lost" : "the port is not open");
+    idle_ = true;
+    const Moment deadline = steady_clock::now() + kWriteBound;
+    bytes = WriteSome(bytes);
+    while (!bytes.empty()) {
+        AwaitRoom(deadline);
+        bytes = WriteSome(bytes);
+    }
+}
+
+// Returns what the device has not taken yet.
+std::string_view PosixPort::WriteSome(std::string_view bytes) {
+    const auto count = ::write(line_.Get(), bytes.data(), bytes.size());
+    if (count >= 0) return bytes.substr(static_cast<std::size_t>(count));
+    if (IsPassing(errno)) return bytes;
+    LoseLine();
+    throw PortError("the line was lost while writing");
+}
+
+void PosixPort::AwaitRoom(Moment deadline) {
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - steady_clock::now());
+    if (left.count() > 0) {
+        pollfd room{.fd = line_.Get(), .events = POLLOUT, .revents = 0};
+        poll(&room, 1, static_cast<int>(left.count()));
+        return;
+    }
+    // Half a record that left later would run into the next one.
+    tcflush(line_.Get(), TCOFLUSH);
+    throw PortError("the device takes no more bytes");
+}
+
+void PosixPort::DiscardInput() {
+    if (!line_) return;
+    idle_ = true;
+    if (tcflush(line_.Get(), TCIFLUSH) != 0) LoseLine();
+}
+
+}  // namespace keplin

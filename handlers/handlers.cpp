@@ -1,0 +1,130 @@
+#include "handlers/handlers.h"
+
+#include <string>
+
+#include "ui/activity.h"
+
+namespace keplin {
+namespace {
+
+constexpr float kStartHeight = 5460;  // twips, title bar and frame included
+
+// Work during whose yields the same event may come again: it is passed over until the first is
+// through.
+template <typename Work>
+void Once(bool& underWay, Work&& work) {
+    if (underWay) return;
+    underWay = true;
+    work();
+    underWay = false;
+}
+
+void Win95Shrivel(Form& xForm) {
+    xForm.WindowState = Form::State::Minimised;
+}
+
+}  // namespace
+
+Handlers::Handlers(ISPMain& window, SerialPort& port, Desktop& desktop)
+    : window_(window),
+      desktop_(desktop),
+      controller_(port, desktop),
+      search_(window, port, controller_, desktop),
+      file_(window, desktop),
+      run_(window, controller_, file_, desktop) {
+    window.Next_1.OnClick = On(&Handlers::Next_1_Click);
+    window.cmdPortTest.OnClick = On(&Handlers::cmdPortTest_Click);
+    window.Next_2.OnClick = On(&Handlers::Next_2_Click);
+    window.Command1.OnClick = On(&Handlers::Command1_Click);
+    window.cmdExit.OnClick = On(&Handlers::cmdExit_Click);
+    window.Timer1.OnTimer = On(&Handlers::Timer1_Tick);
+    window.Window.OnCloseRequest = On(&Handlers::Form_Close);
+}
+
+Handlers::~Handlers() {
+    for (Button* button : {&window_.Next_1, &window_.cmdPortTest, &window_.Next_2,
+                           &window_.Command1, &window_.cmdExit}) {
+        button->OnClick = nullptr;
+    }
+    window_.Timer1.OnTimer = nullptr;
+    window_.Window.OnCloseRequest = nullptr;
+}
+
+std::function<void()> Handlers::On(Handler handler) {
+    return [this, handler] {
+        if (!closing_) (this->*handler)();
+    };
+}
+
+void Handlers::Main() {
+    StopActivity(window_);
+    window_.lblPrgm.Visible = false;
+    ShowPage(window_.PicGettingStarted);
+    window_.PicSetup.Visible = false;
+    window_.PicProgram.Visible = false;
+    window_.Window.Height = kStartHeight;
+    window_.Window.Visible = true;
+}
+
+void Handlers::Next_1_Click() {
+    window_.Next_2.Enabled = false;
+    window_.PicGettingStarted.Visible = false;
+    ShowPage(window_.PicSetup);
+}
+
+void Handlers::cmdPortTest_Click() {
+    Once(lineInUse_, [&] {
+        window_.cmdPortTest.Enabled = false;
+        window_.cmdExit.Enabled = false;
+        const std::int16_t port = search_.FindDevicePort();
+        if (port == kNoPort) {
+            window_.lblResults.Caption = " Communications Fail on All Ports";
+        } else {
+            window_.lblResults.Caption =
+                " Port " + std::to_string(port) + " Ready.  Click NEXT to continue.";
+            window_.Next_2.Enabled = true;
+        }
+        window_.cmdPortTest.Enabled = true;
+        window_.cmdExit.Enabled = true;
+    });
+}
+
+void Handlers::Next_2_Click() {
+    window_.PicSetup.Visible = false;
+    if (!file_.LoadUpdateFile()) return;
+    window_.PicProgram.Left = kShownPageLeft;
+    window_.PicProgram.Top = kShownPageTop;
+    window_.ProgressBar1.Visible = false;
+    window_.PicProgram.Visible = true;
+    window_.ProgressBar1.Value = 0;
+    desktop_.Yield();
+}
+
+void Handlers::Command1_Click() {
+    Once(lineInUse_, [&] { run_.Run(); });
+}
+
+void Handlers::cmdExit_Click() {
+    Form_Unload();
+}
+
+// A tick that falls due while another one yields waits for the next: ticks never nest.
+void Handlers::Timer1_Tick() {
+    Once(ticking_, [&] { Timer1_Timer(window_, desktop_); });
+}
+
+// The title bar's close control does what Close does, and nothing while Close cannot be pressed:
+// a search or an update is under way.
+void Handlers::Form_Close() {
+    if (window_.cmdExit.CanBePressed()) Form_Unload();
+}
+
+void Handlers::Form_Unload() {
+    closing_ = true;
+    desktop_.Yield();
+    Win95Shrivel(window_.Window);
+    desktop_.Yield();
+    desktop_.End();
+}
+
+}  // namespace keplin

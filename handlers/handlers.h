@@ -1,0 +1,54 @@
+// What the window does: the start-up, one handler for each event of a control, and the closing.
+#pragma once
+
+#include <functional>
+
+#include "device/device_exchange.h"
+#include "device/port_search.h"
+#include "device/serial_port.h"
+#include "platform/desktop.h"
+#include "ui/isp_main.h"
+#include "update/update_file.h"
+#include "update/update_run.h"
+
+namespace keplin {
+
+// The program behind one window. It answers the window's events from its making on; window, port
+// and desktop must outlive it.
+class Handlers {
+  public:
+    Handlers(ISPMain& window, SerialPort& port, Desktop& desktop);
+    ~Handlers();
+    Handlers(const Handlers&) = delete;
+    Handlers& operator=(const Handlers&) = delete;
+
+    // The program begins here: shows the window with the getting-started page.
+    void Main();
+
+  private:
+    void Next_1_Click();
+    void cmdPortTest_Click();
+    void Next_2_Click();
+    void Command1_Click();
+    void cmdExit_Click();
+    void Timer1_Tick();
+    void Form_Close();
+    void Form_Unload();
+
+    // A handler as the window calls it: passed over once the window is closing.
+    using Handler = void (Handlers::*)();
+    std::function<void()> On(Handler handler);
+
+    ISPMain& window_;
+    Desktop& desktop_;
+    DeviceExchange controller_;
+    PortSearch search_;
+    UpdateFile file_;
+    UpdateRun run_;
+
+    bool lineInUse_ = false;  // by a port search or an update run: only one of them at a time
+    bool ticking_ = false;
+    bool closing_ = false;
+};
+
+}  // namespace keplin

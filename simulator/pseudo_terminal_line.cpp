@@ -1,0 +1,173 @@
+#include "simulator/pseudo_terminal_line.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <stdlib.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <span>
+#include <system_error>
+
+namespace keplin::simulator {
+namespace {
+
+using std::chrono::milliseconds;
+
+// How often to look for a host, or for a device that hung up: neither announces itself.
+constexpr Time kLookAgain = milliseconds{10};
+// A train of bytes is delivered in groups of about this length, so as not to wake for each.
+constexpr Time kGroup = milliseconds{1};
+// This many bytes on the wire take longer than a group.
+constexpr std::size_t kTrain = 4;
+
+int Checked(int result, const char* what) {
+    if (result < 0) throw std::system_error(errno, std::generic_category(), what);
+    return result;
+}
+
+Time SteadyNow() {
+    return std::chrono::steady_clock::now().time_since_epoch();
+}
+
+timespec ToTimespec(Time duration) {
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(duration);
+    timespec result{};
+    result.tv_sec = seconds.count();
+    result.tv_nsec = (duration - seconds).count();
+    return result;
+}
+
+// A line discipline would echo and reshape bytes until the host has set the line up.
+void MakeRaw(const Descriptor& terminal) {
+    termios settings{};
+    Checked(::tcgetattr(terminal.Get(), &settings), "tcgetattr");
+    ::cfmakeraw(&settings);
+    Checked(::tcsetattr(terminal.Get(), TCSANOW, &settings), "tcsetattr");
+}
+
+Descriptor OpenMaster() {
+    constexpr int kFlags = O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC;
+    Descriptor master(Checked(::posix_openpt(kFlags), "posix_openpt"));
+    Checked(::grantpt(master.Get()), "grantpt");
+    Checked(::unlockpt(master.Get()), "unlockpt");
+    MakeRaw(master);
+    return master;
+}
+
+std::string HostEnd(const Descriptor& master) {
+    std::array<char, 128> name{};
+    const int error = ::ptsname_r(master.Get(), name.data(), name.size());
+    if (error != 0) throw std::system_error(error, std::generic_category(), "ptsname");
+    return name.data();
+}
+
+}  // namespace
+
+PrivateFolder::PrivateFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "keplin-XXXXXX").string();
+    if (::mkdtemp(name.data()) == nullptr) Checked(-1, "mkdtemp");
+    path_ = name;
+}
+
+PrivateFolder::~PrivateFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+PseudoTerminalLine::PseudoTerminalLine(DeviceEnd& device)
+    : wire_(device), devicePath_(folder_.Path() / "port") {
+    std::array<int, 2> ends{};
+    Checked(::pipe2(ends.data(), O_CLOEXEC), "pipe2");
+    wakeReader_ = Descriptor(ends[0]);
+    wakeWriter_ = Descriptor(ends[1]);
+    PlugIn();
+    thread_ = std::thread([this] { Run(); });
+}
+
+PseudoTerminalLine::~PseudoTerminalLine() {
+    wakeWriter_.Close();
+    thread_.join();
+}
+
+void PseudoTerminalLine::Run() {
+    do {
+        CarryBytes();
+    } while (WaitForWork());
+}
+
+void PseudoTerminalLine::CarryBytes() {
+    const std::lock_guard lock(mutex_);
+    const Time now = SteadyNow();
+    FollowHangUp();
+    ReadHost(now);
+    wire_.Advance(now);
+    WriteHost();
+    if (wire_.HungUp()) Unplug();
+}
+
+void PseudoTerminalLine::FollowHangUp() {
+    if (master_ || !wire_.PlugIn()) return;
+    try {
+        PlugIn();
+    } catch (const std::system_error&) {
+        // No pseudo-terminal to be had at the moment: the device stays unplugged until there is.
+        Unplug();
+    }
+}
+
+void PseudoTerminalLine::PlugIn() {
+    master_ = OpenMaster();
+    hostThere_ = true;
+    std::filesystem::create_symlink(HostEnd(master_), devicePath_);
+}
+
+// The name must not outlive the terminal: the system gives its number to somebody else's.
+void PseudoTerminalLine::Unplug() {
+    std::error_code ignored;
+    std::filesystem::remove(devicePath_, ignored);
+    master_.Close();
+}
+
+void PseudoTerminalLine::ReadHost(Time now) {
+    if (!master_) return;
+    std::array<std::uint8_t, 4096> buffer;
+    const ssize_t count = ::read(master_.Get(), buffer.data(), buffer.size());
+    hostThere_ = count >= 0 || errno != EIO;
+    if (count <= 0) return;
+    wire_.HostSends(std::span(buffer).first(static_cast<std::size_t>(count)), now);
+}
+
+void PseudoTerminalLine::WriteHost() {
+    wire_.TakeArrived(toHost_);
+    if (!master_ || toHost_.empty()) return;
+    [[maybe_unused]] const ssize_t taken = ::write(master_.Get(), toHost_.data(), toHost_.size());
+}
+
+bool PseudoTerminalLine::WaitForWork() {
+    std::optional<timespec> timeout;
+    {
+        const std::lock_guard lock(mutex_);
+        const Time now = SteadyNow();
+        const auto wake = WakeTime(now);
+        if (wake) timeout = ToTimespec(std::max(*wake - now, Time::zero()));
+    }
+    // A terminal that no host has open is always ready; it is left out.
+    const int master = hostThere_ ? master_.Get() : -1;
+    std::array<pollfd, 2> watched{{{wakeReader_.Get(), POLLIN, 0}, {master, POLLIN, 0}}};
+    ::ppoll(watched.data(), watched.size(), timeout ? &*timeout : nullptr, nullptr);
+    return watched[0].revents == 0;
+}
+
+std::optional<Time> PseudoTerminalLine::WakeTime(Time now) const {
+    auto wake = wire_.NextEvent();
+    if (wake && wire_.InFlight() >= kTrain) wake = std::max(*wake, now + kGroup);
+    if (master_ && hostThere_) return wake;
+    return std::min(wake.value_or(Time::max()), now + kLookAgain);
+}
+
+}  // namespace keplin::simulator

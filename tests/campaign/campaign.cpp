@@ -1,0 +1,198 @@
+#include "tests/campaign/campaign.h"
+
+#include <array>
+#include <random>
+
+#include "simulator/faulty_device.h"
+#include "tests/support/rig.h"
+
+namespace keplin::test {
+namespace {
+
+using namespace simulator;
+
+// More than any run can take: with the longest file and every limit reached, an update ends sooner.
+constexpr long kYieldLimit = 2'000'000;
+
+struct DoesNotEnd {};
+
+class RandomTechnician {
+  public:
+    explicit RandomTechnician(std::uint64_t seed)
+        : random_(seed), device_(loader_, static_cast<std::uint32_t>(seed)), rig_(&device_) {
+        rig_.trace.Recording = false;
+        rig_.desktop.Idle = std::chrono::milliseconds(40);
+        clickEvery_ = OneIn(3) ? 0 : static_cast<int>(3U << Below(9));
+        rig_.desktop.OnYield = [this] { DuringYield(); };
+    }
+
+    std::optional<std::string> Work(Tally& tally) {
+        try {
+            ReachProgramPage();
+            if (!rig_.window.PicProgram.Shown()) {
+                ++tally.noFile;
+                return wrong_;
+            }
+            for (int run = 0; run < 3 && !rig_.Completed(); ++run)
+                Update();
+            ++(rig_.Completed() ? tally.completed : tally.stopped);
+        } catch (const ProgramEnded&) {
+            ++tally.closed;
+            Demand(!rig_.desktop.Awake, "the program ended while a run was in progress");
+        } catch (const DoesNotEnd&) {
+            Demand(false, "an operation does not end");
+        }
+        return wrong_;
+    }
+
+  private:
+    unsigned Below(unsigned count) { return static_cast<unsigned>(random_() % count); }
+    bool OneIn(unsigned count) { return Below(count) == 0; }
+
+    void Demand(bool holds, const char* what) {
+        if (!holds && !wrong_) wrong_ = what;
+    }
+
+    void ReachProgramPage() {
+        rig_.window.Next_1.Press();
+        InjectFaults(2);
+        for (int search = 0; search < 3 && !rig_.window.Next_2.Enabled; ++search) {
+            rig_.window.cmdPortTest.Press();
+        }
+        file_.emplace(RandomFile());
+        rig_.desktop.Answer = file_->Path();
+        if (OneIn(50)) rig_.desktop.Answer = std::nullopt;
+        rig_.window.Next_2.Press();
+    }
+
+    void Update() {
+        if (OneIn(2)) InjectFaults(20 + static_cast<int>(lines_.size()));
+        sentBefore_ = rig_.port.Sent.size();
+        obeyedBefore_ = loader_.ObeyedRecords().size();
+        rig_.window.Command1.Press();
+        Demand(rig_.window.cmdExit.CanBePressed(), "Close cannot be pressed after a run");
+        Demand(!rig_.window.Shape1.Visible && !rig_.window.Shape2.Visible &&
+                   !rig_.window.Timer1.Enabled,
+               "the activity indicator is on after a run");
+        Demand(!rig_.desktop.Awake, "the computer is kept awake after a run");
+        if (rig_.Completed()) {
+            DemandEveryLineObeyed();
+        } else {
+            Demand(rig_.window.Command1.CanBePressed(), "Update cannot be pressed after a stop");
+        }
+        if (OneIn(2)) device_.ClearFaults();
+        rig_.desktop.Clock += std::chrono::seconds(3);
+    }
+
+    // The completion page says that the controller holds the file.
+    void DemandEveryLineObeyed() {
+        std::vector<std::string> wanted{":010000020CF1",   ":010000020CF1",   ":020000030100FA",
+                                        ":020000030120DA", ":020000030140BA", ":010000020CF1"};
+        for (const std::string& line : lines_) {
+            if (line.empty()) break;
+            wanted.push_back(line);
+        }
+        const auto& obeyed = loader_.ObeyedRecords();
+        const auto since = obeyed.begin() + static_cast<std::ptrdiff_t>(obeyedBefore_);
+        Demand(std::vector<std::string>(since, obeyed.end()) == wanted,
+               "complete, but the controller did not obey every line once and in order");
+        std::vector<std::string> sent(
+            rig_.port.Sent.begin() + static_cast<std::ptrdiff_t>(sentBefore_),
+            rig_.port.Sent.end());
+        std::erase(sent, "U");
+        Demand(sent == wanted, "complete, but not every line was sent once and in order");
+    }
+
+    void InjectFaults(int within) {
+        const unsigned count = Below(3);
+        for (unsigned i = 0; i < count; ++i) {
+            const auto& fault = FaultTable()[Below(static_cast<unsigned>(FaultTable().size()))];
+            const int at = device_.ExchangesSeen() + 1 +
+                           static_cast<int>(Below(static_cast<unsigned>(within)));
+            device_.Inject({fault.kind, at, OneIn(6)});
+        }
+    }
+
+    std::string RandomFile() {
+        std::string contents;
+        const unsigned count = OneIn(4) ? Below(60) : Below(12);
+        for (unsigned i = 0; i < count; ++i) {
+            lines_.push_back(RandomLine(i));
+            contents += lines_.back() + (OneIn(5) ? "\r" : "\r\n");
+        }
+        return contents;
+    }
+
+    std::string RandomLine(unsigned index) {
+        if (OneIn(60)) return "";
+        if (OneIn(60)) return ":00000001FF";
+        if (OneIn(60)) return RandomBytes(1 + Below(40));
+        if (OneIn(200)) return RandomBytes(5000);
+        return DataRecord(static_cast<std::uint16_t>(index * 256), 1 + Below(OneIn(9) ? 255 : 24));
+    }
+
+    std::string RandomBytes(unsigned length) {
+        std::string text;
+        while (text.size() < length) {
+            const char byte = static_cast<char>(Below(256));
+            // A line feed at the head of a line would belong to the end of the line before it.
+            if (byte != '\r' && (byte != '\n' || !text.empty())) text.push_back(byte);
+        }
+        return text;
+    }
+
+    std::string DataRecord(std::uint16_t address, unsigned count) {
+        std::vector<std::uint8_t> bytes{static_cast<std::uint8_t>(count),
+                                        static_cast<std::uint8_t>(address >> 8),
+                                        static_cast<std::uint8_t>(address & 0xFF), 0};
+        for (unsigned i = 0; i < count; ++i)
+            bytes.push_back(static_cast<std::uint8_t>(Below(256)));
+        unsigned sum = 0;
+        for (const std::uint8_t byte : bytes)
+            sum += byte;
+        const unsigned wrong = OneIn(100) ? 1 : 0;
+        bytes.push_back(static_cast<std::uint8_t>(wrong - sum));
+        std::string record = ":";
+        for (const std::uint8_t byte : bytes) {
+            record += "0123456789ABCDEF"[byte >> 4];
+            record += "0123456789ABCDEF"[byte & 15];
+        }
+        return record;
+    }
+
+    void DuringYield() {
+        if (rig_.desktop.Yields > kYieldLimit) throw DoesNotEnd{};
+        Demand(!rig_.desktop.AwakeTwice, "two runs at a time");
+        if (clickEvery_ == 0 || !OneIn(static_cast<unsigned>(clickEvery_))) return;
+        ISPMain& window = rig_.window;
+        const std::array<const Button*, 5> buttons{&window.cmdExit, &window.Next_1, &window.Next_2,
+                                                   &window.cmdPortTest, &window.Command1};
+        const unsigned choice = Below(buttons.size() + 1);
+        const bool leaving = choice == 0 || choice == buttons.size();
+        if (leaving && !rig_.desktop.Awake && !OneIn(20)) return;  // most stay to the end
+        if (choice == buttons.size()) {
+            window.Window.RequestClose();
+        } else {
+            buttons[choice]->Press();
+        }
+    }
+
+    std::mt19937_64 random_;
+    Loader loader_;
+    FaultyDevice device_;
+    Rig rig_;
+    std::optional<TemporaryFile> file_;
+    std::vector<std::string> lines_;
+    std::size_t sentBefore_ = 0;
+    std::size_t obeyedBefore_ = 0;
+    int clickEvery_ = 0;  // yields, on average; 0: never
+    std::optional<std::string> wrong_;
+};
+
+}  // namespace
+
+std::optional<std::string> RandomUpdate(std::uint64_t seed, Tally& tally) {
+    return RandomTechnician(seed).Work(tally);
+}
+
+}  // namespace keplin::test

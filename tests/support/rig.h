@@ -1,0 +1,52 @@
+// The whole program on the virtual clock: the window's model, its handlers, and a port at whose
+// other end a simulated controller stands.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "handlers/handlers.h"
+#include "simulator/loader.h"
+#include "tests/support/temporary_file.h"
+#include "tests/support/trace.h"
+#include "tests/support/virtual_desktop.h"
+#include "tests/support/virtual_port.h"
+
+namespace keplin::test {
+
+// Three blocks get data, the last one at its very end.
+inline constexpr std::string_view kSmallFile =
+    ":0400000001020304F2\r\n:022000005AA5DF\r\n:017FFF00423F\r\n:00000001FF\r\n";
+
+struct Rig {
+    // `device` is what the wire ends at, in place of the rig's own loader.
+    explicit Rig(simulator::DeviceEnd* device = nullptr)
+        : port(device != nullptr ? *device : loader, desktop) {
+        window.Observe(&trace);
+        handlers.Main();
+    }
+    ~Rig() { window.Observe(nullptr); }
+    Rig(const Rig&) = delete;
+    Rig& operator=(const Rig&) = delete;
+
+    // As a technician would: to the setup page, the port test, the file, the programming page.
+    void ReachProgramPage(const std::string& path) {
+        window.Next_1.Press();
+        window.cmdPortTest.Press();
+        desktop.Answer = path;
+        window.Next_2.Press();
+    }
+
+    [[nodiscard]] bool Completed() const {
+        return window.Frame2.Caption.Get() == "Update Complete";
+    }
+
+    ISPMain window;
+    Trace trace;
+    VirtualDesktop desktop{window, trace};
+    simulator::Loader loader;
+    VirtualPort port;
+    Handlers handlers{window, port, desktop};
+};
+
+}  // namespace keplin::test

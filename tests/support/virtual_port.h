@@ -1,0 +1,82 @@
+// The serial port on the virtual clock: a simulated controller at the end of a wire that has the
+// real line's pace.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "device/serial_port.h"
+#include "simulator/wire.h"
+#include "tests/support/virtual_desktop.h"
+
+namespace keplin::test {
+
+class VirtualPort : public SerialPort {
+  public:
+    // The controller is plugged in at port 2; port 1 opens and is silent, 3 and 4 do not exist.
+    static constexpr std::int32_t kControllerPort = 2;
+
+    VirtualPort(simulator::DeviceEnd& device, VirtualDesktop& desktop)
+        : wire_(device), desktop_(desktop) {
+        desktop.NextArrival = [this] {
+            const auto idle = desktop_.Clock + desktop_.Idle;
+            wire_.Advance(desktop_.Clock);
+            const auto event = wire_.NextEvent();
+            // Rounded up, so that what happens then has happened.
+            return event ? std::min(idle, std::chrono::ceil<Microseconds>(*event)) : idle;
+        };
+    }
+
+    void PortNumber(std::int32_t number) override { number_ = number; }
+    void LineSpeed(std::int32_t) override {}
+    void Setting3(std::int32_t) override {}
+    void Setting47(std::int32_t) override {}
+
+    std::int32_t Open() override {
+        open_ = number_ <= kControllerPort ? number_ : 0;
+        lost_ = Connected() && !wire_.PlugIn();
+        DiscardInput();
+        return open_;
+    }
+    std::int32_t Close() override { return open_ = 0; }
+
+    std::int32_t ReadByte() override {
+        desktop_.Log("ReadByte");
+        const auto byte =
+            Connected() && !LineLost() ? wire_.ReadAtHost(desktop_.Clock) : std::nullopt;
+        lost_ = Connected() && wire_.HungUp();
+        desktop_.MayWait = !byte;
+        return byte ? *byte : -1;
+    }
+    void WriteByte(std::uint8_t byte) override {
+        if (Connected() && LineLost()) lost_ = !wire_.PlugIn();
+        Send(std::string(1, static_cast<char>(byte)));
+    }
+    void DiscardInput() override {
+        if (Connected()) wire_.DropArrived(desktop_.Clock);
+    }
+    void WriteText(std::string_view text) override { Send(std::string(text)); }
+    [[nodiscard]] bool LineLost() const override { return lost_; }
+
+    std::vector<std::string> Sent;  // every transmission to the controller, in order
+
+  private:
+    [[nodiscard]] bool Connected() const { return open_ == kControllerPort; }
+
+    void Send(std::string text) {
+        if (LineLost()) throw PortError("the line is lost");
+        desktop_.Log(text == "U" ? "WriteByte 85" : "WriteText " + text);
+        if (!Connected()) return;
+        const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+        wire_.HostSends({bytes, text.size()}, desktop_.Clock);
+        Sent.push_back(std::move(text));
+    }
+
+    simulator::Wire wire_;
+    VirtualDesktop& desktop_;
+    std::int32_t number_ = 0;
+    std::int32_t open_ = 0;
+    bool lost_ = false;
+};
+
+}  // namespace keplin::test

@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include "tests/support/rig.h"
+#include "ui/activity.h"
+#include "ui/panel_widths.h"
+
+namespace keplin::test {
+namespace {
+
+TEST(Window, StartsWithTheGettingStartedPage) {
+    Rig rig;
+    EXPECT_EQ(rig.trace.Take(), R"(Shape1.Visible = False
+Shape2.Visible = False
+lblPrgm.Visible = False
+PicGettingStarted.Left = 120
+PicGettingStarted.Top = 840
+PicSetup.Visible = False
+PicProgram.Visible = False
+ISPMain.Height = 5460
+ISPMain.Visible = True
+)");
+    EXPECT_EQ(rig.window.Window.ClientHeight(), 5145);
+    EXPECT_FALSE(rig.window.Timer1.Enabled);
+    rig.window.Next_1.Press();
+    EXPECT_EQ(rig.trace.Take(), R"(Next_2.Enabled = False
+PicGettingStarted.Visible = False
+PicSetup.Visible = True
+)");
+}
+
+TEST(Window, PortTestDisablesItsButtonsAndEnablesNextOnSuccess) {
+    Rig rig;
+    rig.window.Next_1.Press();
+    rig.desktop.OnYield = [&] {
+        EXPECT_FALSE(rig.window.cmdPortTest.Enabled || rig.window.cmdExit.Enabled);
+        rig.window.cmdPortTest.Press();
+        rig.window.Window.RequestClose();
+    };
+    rig.window.cmdPortTest.Press();
+    EXPECT_EQ(rig.window.lblResults.Caption.Get(), " Port 2 Ready.  Click NEXT to continue.");
+    EXPECT_TRUE(rig.window.Next_2.Enabled && rig.window.cmdPortTest.Enabled);
+    EXPECT_TRUE(rig.window.cmdExit.Enabled);
+}
+
+TEST(Window, AFailedSearchSaysSoAndLeavesNextAsItWas) {
+    simulator::SilentDevice silence;
+    Rig rig(&silence);
+    rig.window.Next_1.Press();
+    for (const bool next : {false, true}) {
+        rig.window.Next_2.Enabled = next;
+        rig.window.cmdPortTest.Press();
+        EXPECT_EQ(rig.window.lblResults.Caption.Get(), " Communications Fail on All Ports");
+        EXPECT_EQ(rig.window.Next_2.Enabled, next);
+    }
+}
+
+TEST(Window, NextInsideASecondSearchLoadsTheFile) {
+    Rig rig;
+    const TemporaryFile file(kSmallFile);
+    rig.desktop.Answer = file.Path();
+    rig.window.Next_1.Press();
+    rig.window.cmdPortTest.Press();
+    bool pressed = false;
+    rig.desktop.OnYield = [&] {
+        if (!std::exchange(pressed, true)) rig.window.Next_2.Press();
+        rig.window.Command1.Press();  // the search owns the line
+    };
+    rig.window.cmdPortTest.Press();
+    rig.desktop.OnYield = nullptr;
+    EXPECT_TRUE(rig.window.PicProgram.Shown());
+    EXPECT_EQ(rig.loader.ObeyedRecords().size(), 0U);
+    rig.window.Command1.Press();
+    EXPECT_TRUE(rig.Completed());
+}
+
+TEST(Window, AnUpdateFileThatDoesNotLoadLeavesOnlyClose) {
+    Rig rig;
+    rig.ReachProgramPage("/nowhere");
+    EXPECT_FALSE(rig.window.PicSetup.Shown() || rig.window.PicProgram.Shown());
+    EXPECT_TRUE(rig.window.cmdExit.CanBePressed());
+    const auto& prompt = rig.window.lblPrg[2].Caption.Get();
+    EXPECT_EQ(prompt,
+              "3. Observe below and verify the Erase process completes without any failures.");
+}
+
+TEST(Window, TheProgrammingPageComesWithItsBarHiddenAtZero) {
+    Rig rig;
+    const TemporaryFile file(kSmallFile);
+    rig.window.ProgressBar1.Value = 50;
+    rig.trace.Take();
+    rig.ReachProgramPage(file.Path());
+    const std::string trace = rig.trace.Take();
+    EXPECT_TRUE(trace.ends_with(R"(PicProgram.Left = 120
+PicProgram.Top = 840
+ProgressBar1.Visible = False
+PicProgram.Visible = True
+ProgressBar1.Value = 0
+Yield
+)")) << trace;
+    EXPECT_FALSE(rig.window.lblPrgm.Visible);
+}
+
+TEST(Window, ClosingMinimisesAndEndsTheProgramAndNothingElseStarts) {
+    for (const bool byTitleBar : {false, true}) {
+        Rig rig;
+        rig.trace.Take();
+        rig.desktop.OnYield = [&] {
+            rig.window.Next_1.Press();
+            rig.window.cmdExit.Press();
+        };
+        EXPECT_THROW(byTitleBar ? rig.window.Window.RequestClose() : rig.window.cmdExit.Press(),
+                     ProgramEnded);
+        EXPECT_EQ(rig.trace.Take(), "Yield\nISPMain.WindowState = Minimised\nYield\nEnd\n");
+    }
+}
+
+TEST(Window, ARunIsNeitherClosedNorStartedTwice) {
+    Rig rig;
+    const TemporaryFile file(kSmallFile);
+    rig.ReachProgramPage(file.Path());
+    rig.desktop.OnYield = [&] {
+        rig.window.Window.RequestClose();
+        rig.window.cmdExit.Press();
+        rig.window.Command1.Press();
+    };
+    rig.window.Command1.Press();
+    EXPECT_TRUE(rig.Completed());
+    EXPECT_EQ(rig.port.Sent.size(), 1U + 9U + 4U);  // the search's ping, the run's nine, the lines
+}
+
+TEST(Activity, TheBlockTurnsAtTheEndsOfItsTrack) {
+    Rig rig;
+    const auto tick = [&] { Timer1_Timer(rig.window, rig.desktop); };
+    const Property<float>& left = rig.window.Shape2.Left;
+    std::vector<float> seen;
+    for (int i = 1; i <= 674; ++i) {
+        tick();
+        if (i == 1 || (i >= 335 && i <= 338) || i >= 671) seen.push_back(left);
+    }
+    EXPECT_EQ(seen, (std::vector<float>{135, 5145, 5160, 5145, 5130, 135, 120, 120, 135}));
+}
+
+TEST(Activity, KeepsPlaceAndDirectionThroughAStopAndNestedTicksDoNotRun) {
+    Rig rig;
+    StartActivity(rig.window);
+    rig.window.Shape2.Left = 5160;
+    rig.desktop.Ticks = false;
+    rig.window.Timer1.Tick();
+    StopActivity(rig.window);
+    rig.window.Timer1.Tick();
+    EXPECT_EQ(rig.window.Shape2.Left, 5145);
+    StartActivity(rig.window);
+    int depth = 0;
+    rig.desktop.OnYield = [&] {
+        ++depth;
+        rig.window.Timer1.Tick();
+    };
+    rig.window.Timer1.Tick();
+    EXPECT_EQ(depth, 2);
+    EXPECT_EQ(rig.window.Shape2.Left, 5130);
+}
+
+TEST(StatusBars, ShareTheirWidthByTheRulesOfTheirPanels) {
+    const ISPMain window;
+    const auto widths = [&](const StatusBar& bar, std::vector<float> minimums,
+                            std::vector<float> texts) {
+        return PanelWidths(bar, 9330, minimums, texts);
+    };
+    using W = std::vector<float>;
+    EXPECT_EQ(widths(window.StatusBar1, {1840, 2000}, {9000, 100}), (W{7330, 2000}));
+    EXPECT_EQ(widths(window.StatusBar1, {1840, 2000}, {0, 2330}), (W{7000, 2330}));
+    EXPECT_EQ(widths(window.StatusBar1, {1840, 2000}, {0, 9000}), (W{1840, 9000}));
+    EXPECT_EQ(widths(window.StatusBar2, {1440, 1440, 1440}, {0, 9000, 0}), (W{3110, 3110, 3110}));
+}
+
+}  // namespace
+}  // namespace keplin::test
