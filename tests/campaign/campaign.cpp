@@ -38,7 +38,7 @@ class RandomTechnician {
             ++(rig_.Completed() ? tally.completed : tally.stopped);
         } catch (const ProgramEnded&) {
             ++tally.closed;
-            Demand(!rig_.desktop.Awake, "the program ended while a run was in progress");
+            Demand(!rig_.desktop.EndedBusy, "the program ended during a search or a run");
         } catch (const DoesNotEnd&) {
             Demand(false, "an operation does not end");
         }
@@ -67,6 +67,7 @@ class RandomTechnician {
 
     void Update() {
         if (OneIn(2)) InjectFaults(20 + static_cast<int>(lines_.size()));
+        rig_.port.Settle();
         sentBefore_ = rig_.port.Sent.size();
         obeyedBefore_ = loader_.ObeyedRecords().size();
         rig_.window.Command1.Press();

@@ -68,6 +68,7 @@ class VirtualDesktop : public Desktop {
 
     [[noreturn]] void End() override {
         trace_.Add("End");
+        EndedBusy = !window_.cmdExit.Enabled;
         throw ProgramEnded{};
     }
 
@@ -80,6 +81,7 @@ class VirtualDesktop : public Desktop {
     long Yields = 0;
     bool Ticks = true;  // of the window's timer
     bool Awake = false;
+    bool EndedBusy = false;   // the program ended although Close could not be pressed
     bool AwakeTwice = false;  // it was to be kept awake while it already was
     bool MayWait = false;     // the last read gave nothing: the next yield waits for what comes
     bool FactsFail = false;

@@ -58,6 +58,9 @@ class VirtualPort : public SerialPort {
     void WriteText(std::string_view text) override { Send(std::string(text)); }
     [[nodiscard]] bool LineLost() const override { return lost_; }
 
+    // Lets what is still on the wire arrive, as far as it is due.
+    void Settle() { wire_.Advance(desktop_.Clock); }
+
     std::vector<std::string> Sent;  // every transmission to the controller, in order
 
   private:

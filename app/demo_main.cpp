@@ -1,0 +1,121 @@
+// keplin-demo: the whole program with a simulated controller plugged in.
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTimer>
+#include <algorithm>
+#include <fstream>
+#include <iostream>
+#include <memory>
+
+#include "app/change_printer.h"
+#include "app/demo_controller.h"
+#include "app/demo_options.h"
+#include "app/file_image.h"
+#include "app/program.h"
+#include "app/stage_pictures.h"
+#include "app/walk.h"
+
+namespace keplin {
+namespace {
+
+class Demonstration {
+  public:
+    explicit Demonstration(DemoOptions options)
+        : options_(std::move(options)),
+          controller_(std::make_unique<DemoController>(options_.faults)),
+          program_([this](std::int32_t port) { return controller_->DevicePath(port); }, Hooks()),
+          pictures_(program_.window, program_.drawing, options_.pictures),
+          walk_(program_.window, program_.drawing, pictures_, options_.again),
+          printer_(program_.drawing, [this](const Control& control, Aspect aspect) {
+              pictures_.TakeAtStage(control, aspect);
+          }) {}
+    ~Demonstration() { program_.window.Observe(&program_.drawing); }
+    Demonstration(const Demonstration&) = delete;
+    Demonstration& operator=(const Demonstration&) = delete;
+
+    int Run() {
+        // The open-file dialog starts here.
+        QDir::setCurrent(QFileInfo(QFile::decodeName(options_.file.c_str())).absolutePath());
+        if (options_.walk) {
+            program_.window.Observe(&printer_);
+            QTimer::singleShot(0, [this] { walk_.Go(); });
+        }
+        program_.handlers.Main();
+        return QApplication::exec();
+    }
+
+  private:
+    qt::QtDesktop::Hooks Hooks() {
+        qt::QtDesktop::Hooks hooks;
+        if (options_.walk) {
+            hooks.openFile = [this](const OpenFileRequest&) { return options_.file; };
+        }
+        hooks.beforeEnd = [this] { return End(); };
+        return hooks;
+    }
+
+    // The exit code: 0 when nothing was to be done, or was done and is true.
+    int End() {
+        const DemoController::Memory memory = controller_->ReadMemory();
+        controller_.reset();  // its device files go with it
+        if (!Save(memory)) return 1;
+        return options_.walk ? Judge(memory) : 0;
+    }
+
+    bool Save(const DemoController::Memory& memory) const {
+        if (options_.memory.empty()) return true;
+        std::ofstream file(options_.memory, std::ios::binary | std::ios::trunc);
+        file.write(reinterpret_cast<const char*>(memory.data()),
+                   static_cast<std::streamsize>(memory.size()));
+        file.close();
+        if (!file) std::cerr << "keplin-demo: cannot write " << options_.memory << "\n";
+        return !file.fail();
+    }
+
+    int Judge(const DemoController::Memory& memory) const {
+        if (!walk_.Completed()) {
+            std::cout << "The completion page was not reached." << std::endl;
+            return 1;
+        }
+        const DemoController::Memory image = ImageOfFile(options_.file);
+        const auto [is, wanted] =
+            std::mismatch(memory.begin(), memory.end(), image.begin(), image.end());
+        if (is == memory.end() && wanted == image.end()) {
+            std::cout << "The update is complete, and the controller's memory holds exactly the "
+                         "file's data."
+                      << std::endl;
+            return 0;
+        }
+        std::cout << "The completion page stands, but the controller's memory differs from the "
+                     "file at address "
+                  << is - memory.begin() << "." << std::endl;
+        return 1;
+    }
+
+    DemoOptions options_;
+    std::unique_ptr<DemoController> controller_;
+    Program program_;
+    StagePictures pictures_;
+    Walk walk_;
+    ChangePrinter printer_;
+};
+
+}  // namespace
+}  // namespace keplin
+
+int main(int argc, char** argv) {
+    int exitCode = 0;
+    auto options = keplin::ReadDemoOptions(argc, argv, exitCode);
+    if (!options) return exitCode;
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("keplin-demo");
+    QApplication::setDesktopFileName("keplin-demo");
+    try {
+        return keplin::Demonstration(std::move(*options)).Run();
+    } catch (const std::exception& error) {
+        std::cerr << "keplin-demo: " << error.what() << "\n";
+        return 2;
+    }
+}

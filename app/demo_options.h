@@ -1,0 +1,25 @@
+// What keplin-demo was asked to do.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "simulator/faults.h"
+
+namespace keplin {
+
+struct DemoOptions {
+    bool walk = false;     // press the buttons by itself
+    bool again = false;    // in a walk: a second try after a step that failed
+    std::string file;      // the update file, a full path
+    std::string memory;    // where the controller's memory is written; empty: nowhere
+    std::string pictures;  // the folder for the pictures; empty: none
+    std::vector<simulator::FaultAt> faults;
+};
+
+// The options, or nothing when the program is to end at once with `exitCode`: 0 after --help, 2
+// after a wrong option or a file that cannot be used, which standard error names.
+std::optional<DemoOptions> ReadDemoOptions(int argc, char** argv, int& exitCode);
+
+}  // namespace keplin

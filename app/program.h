@@ -1,0 +1,25 @@
+// The whole program, put together: the window's model, its drawing, the serial port, the desktop
+// and the handlers.
+#pragma once
+
+#include "device/posix_port.h"
+#include "handlers/handlers.h"
+#include "ui/isp_main.h"
+#include "ui/qt/main_window.h"
+#include "ui/qt/qt_desktop.h"
+
+namespace keplin {
+
+struct Program {
+    // Needs a QApplication. The idle descriptor among the hooks becomes that of the port, and
+    // the port is closed before the program ends.
+    Program(DevicePaths ports, qt::QtDesktop::Hooks hooks);
+
+    ISPMain window;
+    PosixPort port;
+    qt::MainWindow drawing;
+    qt::QtDesktop desktop;
+    Handlers handlers;
+};
+
+}  // namespace keplin

@@ -1,0 +1,51 @@
+#include "app/stage_pictures.h"
+
+#include <QPixmap>
+#include <QString>
+#include <cctype>
+#include <iostream>
+#include <utility>
+
+namespace keplin {
+namespace {
+
+std::string FileName(int number, std::string_view name) {
+    std::string text = (number < 10 ? "0" : "") + std::to_string(number);
+    bool word = false;
+    for (const char letter : name) {
+        const bool belongs = std::isalnum(static_cast<unsigned char>(letter)) != 0;
+        if (belongs && !word) text += '-';
+        if (belongs) text += static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+        word = belongs;
+    }
+    return text + ".png";
+}
+
+}  // namespace
+
+StagePictures::StagePictures(const ISPMain& window, QWidget& drawing, std::string folder)
+    : window_(window), drawing_(drawing), folder_(std::move(folder)) {}
+
+void StagePictures::Take(std::string_view name) {
+    if (folder_.empty()) return;
+    const std::string path = folder_ + "/" + FileName(++count_, name);
+    if (!drawing_.grab().save(QString::fromStdString(path), "PNG")) {
+        std::cerr << "keplin-demo: cannot write " << path << "\n";
+    }
+}
+
+void StagePictures::TakeAtStage(const Control& control, Aspect aspect) {
+    if (&control == &window_.lblResults && aspect == Aspect::Caption) {
+        Take(window_.lblResults.Caption.Get());
+    }
+    if (&control == &window_.lblPrgm && aspect == Aspect::Caption) {
+        Take(window_.lblPrgm.Caption.Get());
+    }
+    const bool programming = window_.lblPrgm.Caption.Get() == "Programming Device";
+    if (&control == &window_.ProgressBar1 && aspect == Aspect::Value && programming &&
+        window_.ProgressBar1.Done() >= 0.5F && !std::exchange(middleTaken_, true)) {
+        Take("Programming, half done");
+    }
+}
+
+}  // namespace keplin

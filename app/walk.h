@@ -1,0 +1,35 @@
+// Walks through one update as a technician would, by pressing the buttons of the real window.
+#pragma once
+
+#include <QWidget>
+
+#include "app/stage_pictures.h"
+#include "ui/isp_main.h"
+
+namespace keplin {
+
+class Walk {
+  public:
+    // `again`: a step that failed is tried a second time.
+    Walk(const ISPMain& window, QWidget& drawing, StagePictures& pictures, bool again);
+
+    // From the getting-started page to the press on Finish or Close, which ends the program.
+    void Go();
+
+    // The completion page stands.
+    [[nodiscard]] bool Completed() const;
+
+  private:
+    void ReachEnd();
+    void PressUntil(const Button& button, bool (Walk::*done)() const);
+    void Press(const Button& button);
+    void PrintStop() const;
+    [[nodiscard]] bool PortFound() const;
+
+    const ISPMain& window_;
+    QWidget& drawing_;
+    StagePictures& pictures_;
+    const bool again_;
+};
+
+}  // namespace keplin

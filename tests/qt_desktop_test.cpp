@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <stdexcept>
+#include <utility>
+
+#include "tests/support/qt_window.h"
+
+namespace keplin::test {
+namespace {
+
+using QtDesktopTest = QtWindow;
+
+TEST_F(QtDesktopTest, TicksComeOneAfterTheOther) {
+    int ticks = 0;
+    int inside = 0;
+    model.Timer1.OnTimer = [&] {
+        EXPECT_EQ(++inside, 1);
+        desktop.Sleep(std::chrono::milliseconds(3));
+        desktop.Yield();
+        --inside;
+        ++ticks;
+    };
+    model.Timer1.Enabled = true;
+    EXPECT_TRUE(Until([&] { return ticks == 3; }));
+    model.Timer1.Enabled = false;
+    desktop.Sleep(std::chrono::milliseconds(3));
+    desktop.Yield();
+    EXPECT_EQ(ticks, 3);
+}
+
+TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
+    std::array<int, 2> line{};
+    ASSERT_EQ(pipe(line.data()), 0);
+    int awaited = -1;
+    QtDesktop waiting(window, {.idleDescriptor = [&] { return std::exchange(awaited, -1); },
+                               .openFile = {},
+                               .beforeEnd = {}});
+    const auto fiftyYields = [&](bool wait) {
+        const auto start = waiting.Now();
+        for (int i = 0; i < 50; ++i) {
+            if (wait) awaited = line[0];
+            waiting.Yield();
+            EXPECT_EQ(awaited, -1);
+        }
+        return waiting.Now() - start;
+    };
+    const auto silent = fiftyYields(true);
+    EXPECT_GE(silent, std::chrono::milliseconds(50));
+    EXPECT_LT(fiftyYields(false), silent);
+    ASSERT_EQ(write(line[1], "x", 1), 1);
+    EXPECT_LT(fiftyYields(true), silent);
+    for (const int end : line) close(end);
+}
+
+TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
+    const QtDesktop::Hooks hooks{.idleDescriptor = {},
+                                 .openFile = [](const auto& request) { return request.title; },
+                                 .beforeEnd = {}};
+    EXPECT_EQ(QtDesktop(window, hooks).ShowOpen({"", "typed", "", false}), "typed");
+    EXPECT_THROW(desktop.FileLength("/nowhere/to/be/found"), std::runtime_error);
+    EXPECT_THROW(desktop.FileDateTime("/nowhere/to/be/found"), std::runtime_error);
+    EXPECT_GT(desktop.FileLength("/proc/self/exe"), 0U);
+    EXPECT_NE(desktop.FileDateTime("/proc/self/exe"), "");
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        QtDesktop(window, {.idleDescriptor = {}, .openFile = {}, .beforeEnd = [] { return 3; }})
+            .End(),
+        testing::ExitedWithCode(3), "");
+}
+
+}  // namespace
+}  // namespace keplin::test

@@ -1,0 +1,257 @@
+#include "tests/support/qt_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QGroupBox>
+#include <QProgressBar>
+#include <chrono>
+
+#include "tests/support/text_fit.h"
+#include "ui/program_instructions.h"
+
+namespace keplin::test {
+namespace {
+
+TEST_F(QtWindow, EveryControlStandsInItsPlace) {
+    EXPECT_EQ(window.size(), QSize(622, 343));
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+    EXPECT_EQ(window.windowTitle(), "  Keplin For QDX-470");
+    EXPECT_EQ(Find(model.PicGettingStarted)->geometry(), QRect(8, 56, 561, 193));
+    EXPECT_EQ(Find(model.Next_1)->geometry(), QRect(440, 144, 81, 25));
+    EXPECT_EQ(Find(model.StatusBar1)->geometry(), QRect(0, 309, 622, 17));
+    EXPECT_EQ(Find(model.StatusBar2)->geometry(), QRect(0, 326, 622, 17));
+    int checked = 0;
+    for (const Control* control : model.Controls()) {
+        const QWidget* widget = Find(*control);
+        if (widget == nullptr || widget->parentWidget()->objectName().startsWith("Status"))
+            continue;
+        if (dynamic_cast<const StatusBar*>(control) != nullptr) continue;
+        const QRectF pixels(control->Left / 15, control->Top / 15, control->Width / 15,
+                            control->Height / 15);
+        EXPECT_EQ(QRectF(widget->geometry()), pixels) << control->Name;
+        ++checked;
+    }
+    EXPECT_EQ(checked, 33);
+}
+
+TEST_F(QtWindow, FollowsTheModel) {
+    model.Shape2.Left = 5160;
+    model.Command1.Caption = "Fish & Chips";
+    model.lblPrg[0].Bold = true;
+    model.Frame2.Caption = "Update Complete";
+    EXPECT_EQ(Find(model.Shape2)->pos(), QPoint(344, 264));
+    EXPECT_EQ(Find<QPushButton>(model.Command1)->text(), "Fish && Chips");
+    EXPECT_TRUE(Find(model.lblPrg[0])->font().bold());
+    EXPECT_FALSE(Find(model.lblPrg[1])->font().bold());
+    EXPECT_EQ(Find(model.Frame2)->accessibleName(), "Update Complete");
+    EXPECT_FALSE(Find(model.PicSetup)->isVisible());
+    Show(model.PicSetup);
+    EXPECT_TRUE(Find(model.cmdPortTest)->isVisible());
+    model.Window.WindowState = Form::State::Minimised;
+    EXPECT_TRUE(window.isMinimized());
+}
+
+TEST_F(QtWindow, EveryTextIsWholeAtEveryStage) {
+    const std::vector<std::string> none;
+    EXPECT_EQ(TextsThatDoNotFit(window), none);
+    Show(model.PicSetup);
+    const double size = Find(model.Label4)->font().pointSizeF();
+    for (const char* text :
+         {"Port 4 Active.  Ping Test Started", "Query to Port 4   Port Not Active",
+          " Port 4 Ready.  Click NEXT to continue.", " Communications Fail on All Ports"}) {
+        model.lblResults.Caption = text;
+        EXPECT_EQ(TextsThatDoNotFit(window), none) << text;
+    }
+    Show(model.PicProgram);
+    EXPECT_EQ(TextsThatDoNotFit(window), none);
+    ShowProgramInstructions(model, desktop);
+    model.lblPrgm.Visible = true;
+    model.lblPrgm.Caption = "Programming Failed at Line 10001";
+    EXPECT_EQ(TextsThatDoNotFit(window), none);
+    for (Control* hidden : std::initializer_list<Control*>{&model.Command1, &model.Label10,
+                                                           &model.ProgressBar1, &model.lblPrgm}) {
+        hidden->Visible = false;
+    }
+    model.lblPrg[0].Caption = "Congratulations programming is now complete.";
+    model.lblPrg[0].Bold = true;
+    model.lblPrg[1].Caption =
+        "Turn off power to the QDX-470 controller and disconnect the serial cable.";
+    model.lblPrg[2].Caption =
+        "Re-apply power and verify the voice announces the correct update version number.";
+    EXPECT_EQ(TextsThatDoNotFit(window), none);
+    for (const Label& label : model.lblPrg)
+        EXPECT_EQ(Find(label)->font().pointSizeF(), size);
+}
+
+TEST_F(QtWindow, ALabelThatIsTooNarrowWritesSmallerAsLongAsItMust) {
+    Show(model.PicProgram);
+    const double size = Find(model.lblPrg[0])->font().pointSizeF();
+    model.lblPrg[0].Caption = model.lblPrg[0].Caption.Get() + " Please.";
+    EXPECT_LT(Find(model.lblPrg[0])->font().pointSizeF(), size);
+    EXPECT_TRUE(TextsThatDoNotFit(window).empty());
+    model.Command1.Visible = false;
+    EXPECT_EQ(Find(model.lblPrg[0])->font().pointSizeF(), size);
+}
+
+TEST_F(QtWindow, ClicksAndKeysPressWhatCanBePressed) {
+    int presses = 0;
+    model.Next_1.OnClick = [&] { ++presses; };
+    Find<QPushButton>(model.Next_1)->click();
+    Type(Qt::Key_Return);
+    Type(Qt::Key_Enter);
+    Type(Qt::Key_Space);
+    EXPECT_EQ(presses, 4);
+    Type(Qt::Key_Return, true);
+    Type(Qt::Key_Space, true);
+    EXPECT_EQ(presses, 4);
+    model.Next_1.Enabled = false;
+    Find<QPushButton>(model.Next_1)->click();
+    EXPECT_EQ(presses, 4);
+}
+
+TEST_F(QtWindow, TheFocusGoesToAButtonThatCanBePressed) {
+    EXPECT_EQ(Focused(), "Next_1");
+    Type(Qt::Key_Tab);
+    EXPECT_EQ(Focused(), "cmdExit");
+    Type(Qt::Key_Tab);
+    model.PicGettingStarted.Visible = false;
+    EXPECT_EQ(Focused(), "cmdExit");
+    model.Next_2.Enabled = false;
+    Show(model.PicSetup);
+    EXPECT_EQ(Focused(), "cmdPortTest");
+    model.cmdExit.Enabled = false;
+    model.cmdPortTest.Enabled = false;
+    EXPECT_EQ(Focused(), "");
+    model.Next_2.Enabled = true;
+    EXPECT_EQ(Focused(), "Next_2");
+    model.cmdPortTest.Enabled = true;
+    EXPECT_EQ(Focused(), "Next_2");
+}
+
+TEST_F(QtWindow, WhileAPressIsAtWorkALostFocusPressesNothing) {
+    bool found = false;
+    model.cmdPortTest.OnClick = [&] {
+        model.cmdPortTest.Enabled = false;
+        EXPECT_EQ(Focused(), "");
+        Type(Qt::Key_Return);
+        if (found) model.Next_2.Enabled = true;
+        model.cmdPortTest.Enabled = true;
+    };
+    model.Next_2.Enabled = false;
+    Show(model.PicSetup);
+    Type(Qt::Key_Return);
+    EXPECT_EQ(Focused(), "cmdPortTest");
+    found = true;
+    Type(Qt::Key_Return);
+    EXPECT_EQ(Focused(), "Next_2");
+    Find(model.cmdPortTest)->setFocus();
+    Type(Qt::Key_Return);
+    EXPECT_EQ(Focused(), "cmdPortTest");
+}
+
+TEST_F(QtWindow, AskedToCloseItAsksTheModel) {
+    int requests = 0;
+    model.Window.OnCloseRequest = [&] { ++requests; };
+    EXPECT_FALSE(window.close());
+    EXPECT_EQ(requests, 1);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(QtWindow, TheProgressBarStaysInItsRange) {
+    Show(model.PicProgram);
+    const auto* bar = Find<QProgressBar>(model.ProgressBar1);
+    const auto done = [&] {
+        model.ProgressBar1.Visible = false;
+        model.ProgressBar1.Visible = true;
+        return static_cast<double>(bar->value()) / bar->maximum();
+    };
+    model.ProgressBar1.Value = 33;
+    EXPECT_DOUBLE_EQ(done(), 0.33);
+    model.ProgressBar1.Value = 200;
+    EXPECT_EQ(done(), 1);
+    model.ProgressBar1.Max = 0;
+    EXPECT_EQ(done(), 0);
+    EXPECT_EQ(bar->minimum(), 0);
+    EXPECT_FALSE(bar->isTextVisible());
+}
+
+class PaintCounter : public QObject {
+  public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        Paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int Paints = 0;
+};
+
+TEST_F(QtWindow, TheProgressBarIsRepaintedNowAndThenAndAtTheEnd) {
+    Show(model.PicProgram);
+    model.ProgressBar1.Max = 1000;
+    auto* bar = Find<QProgressBar>(model.ProgressBar1);
+    Until([&] { return bar->value() == 0; });
+    PaintCounter counter;
+    bar->installEventFilter(&counter);
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 1; i <= 500; ++i) {
+        model.ProgressBar1.Value = static_cast<float>(i);
+        desktop.Yield();
+    }
+    EXPECT_TRUE(Until([&] { return bar->value() == bar->maximum() / 2; }));
+    const auto passed = std::chrono::steady_clock::now() - start;
+    EXPECT_LE(counter.Paints, 2 + passed / std::chrono::milliseconds(33));
+    EXPECT_GE(counter.Paints, 1);
+}
+
+TEST_F(QtWindow, PanelsShareTheirBarAndShortenALongPath) {
+    const auto* file = Find<QLabel>(model.StatusBar1.Panels(1));
+    const auto* lines = Find<QLabel>(model.StatusBar1.Panels(2));
+    EXPECT_EQ(lines->geometry().right() + 1, 622 - 2);
+    EXPECT_EQ(lines->geometry().left(), 622 - 133);
+    EXPECT_EQ(Find(model.StatusBar2.Panels(2))->geometry().left(), 207);
+    model.StatusBar1.Panels(1).Text = " /home/me/UPDATE.HEX";
+    EXPECT_EQ(file->text(), " /home/me/UPDATE.HEX");
+    EXPECT_EQ(file->toolTip(), "");
+    const std::string path = " /" + std::string(200, 'x') + "/UPDATE.HEX";
+    model.StatusBar1.Panels(1).Text = path;
+    EXPECT_TRUE(file->text().startsWith(" /xx") && file->text().endsWith("/UPDATE.HEX"));
+    EXPECT_EQ(file->toolTip().toStdString(), path);
+    EXPECT_EQ(model.StatusBar1.Panels(1).Text.Get(), path);
+    EXPECT_TRUE(TextsThatDoNotFit(window).empty());
+    model.StatusBar1.Panels(2).Text = std::string(50, 'x');
+    EXPECT_EQ(lines->toolTip(), "");
+    EXPECT_LT(lines->geometry().left(), 400);
+}
+
+TEST_F(QtWindow, AScreenReaderFindsANameOnEveryControl) {
+    const auto read = [this](const Control& control, QAccessible::Text text = QAccessible::Name) {
+        return QAccessible::queryAccessibleInterface(Find(control))->text(text).toStdString();
+    };
+    for (const Control* control : model.Controls()) {
+        const QWidget* widget = Find(*control);
+        if (qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget) ||
+            qobject_cast<const QGroupBox*>(widget)) {
+            EXPECT_NE(read(*control), "") << control->Name;
+        }
+    }
+    EXPECT_EQ(read(model.ProgressBar1), "Progress of the update");
+    EXPECT_EQ(read(model.lblResults), "Result of the port test");
+    model.lblResults.Caption = "Query to Port 1";
+    model.StatusBar2.Panels(3).Text = "Checksum: A";
+    model.cmdExit.Caption = "Finish & Go";
+    EXPECT_EQ(read(model.lblResults), "Query to Port 1");
+    EXPECT_EQ(read(model.StatusBar2.Panels(3)), "Checksum: A");
+    EXPECT_EQ(read(model.StatusBar2.Panels(3), QAccessible::Description), "Checksum");
+    EXPECT_EQ(read(model.cmdExit), "Finish & Go");
+}
+
+}  // namespace
+}  // namespace keplin::test
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,72 @@
+// The real window on Qt's offscreen platform, with no program behind it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <chrono>
+#include <string>
+
+#include "ui/qt/main_window.h"
+#include "ui/qt/qt_desktop.h"
+
+namespace keplin::test {
+
+using qt::QtDesktop;
+
+// The window with its getting-started page, on the offscreen desktop.
+class QtWindow : public testing::Test {
+  protected:
+    QtWindow() {
+        for (Control* hidden :
+             std::initializer_list<Control*>{&model.Shape1, &model.Shape2, &model.lblPrgm,
+                                             &model.PicSetup, &model.PicProgram}) {
+            hidden->Visible = false;
+        }
+        ShowPage(model.PicGettingStarted);
+        model.Window.Height = 5460;
+        model.Window.Visible = true;
+        QCoreApplication::processEvents();
+    }
+
+    void Show(Page& page) {
+        for (Page* other : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {
+            if (other != &page) other->Visible = false;
+        }
+        ShowPage(page);
+    }
+
+    template <typename Widget = QWidget>
+    Widget* Find(const Control& control) {
+        return window.findChild<Widget*>(QString::fromStdString(control.Name));
+    }
+
+    std::string Focused() {
+        const QWidget* focused = window.focusWidget();
+        return focused == &window ? "" : focused->objectName().toStdString();
+    }
+
+    // One key, sent to whatever has the focus.
+    void Type(int key, bool repeated = false) {
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, Qt::NoModifier, {}, repeated);
+            QCoreApplication::sendEvent(window.focusWidget(), &event);
+        }
+    }
+
+    // Processes events until the condition holds; false after five seconds.
+    template <typename Condition>
+    bool Until(Condition&& condition) {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+        while (!condition() && std::chrono::steady_clock::now() < end)
+            desktop.Yield();
+        return condition();
+    }
+
+    ISPMain model;
+    qt::MainWindow window{model};
+    QtDesktop desktop{window, {}};
+};
+
+}  // namespace keplin::test

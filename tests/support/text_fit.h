@@ -1,0 +1,70 @@
+// Which texts of a window are not whole, told from what its widgets would paint.
+#pragma once
+
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QWidget>
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace keplin::test {
+
+// The pixels that a label's text blackens, from the label's corner, were there room all around.
+inline QRect InkOf(const QLabel& label) {
+    constexpr int kSpace = 200;
+    QImage image(label.size() + QSize(kSpace, kSpace), QImage::Format_Grayscale8);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setFont(label.font());
+    const auto flags = static_cast<int>(label.alignment() & Qt::AlignHorizontal_Mask);
+    painter.drawText(QRect(0, 0, label.width(), image.height()), flags | Qt::TextWordWrap,
+                     label.text());
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qGray(image.pixel(x, y)) < 200) ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+// A widget that lies above the label and hides some of its text.
+inline bool IsCovered(const QLabel& label, const QRect& ink) {
+    const QObjectList siblings = label.parentWidget()->children();
+    const auto covers = [&](QObject* object) {
+        const auto* other = qobject_cast<QWidget*>(object);
+        return other != nullptr && other->isVisible() &&
+               other->geometry().translated(-label.pos()).intersects(ink);
+    };
+    return std::any_of(siblings.begin() + siblings.indexOf(&label) + 1, siblings.end(), covers);
+}
+
+inline bool IsWhole(const QLabel& label) {
+    if (!label.wordWrap()) {
+        return label.fontMetrics().horizontalAdvance(label.text()) <=
+                   label.contentsRect().width() &&
+               label.fontMetrics().height() <= label.contentsRect().height();
+    }
+    const QRect ink = InkOf(label);
+    return label.rect().contains(ink) && !IsCovered(label, ink);
+}
+
+// The names of the visible labels, panels and buttons whose text is cut off or covered now.
+inline std::vector<std::string> TextsThatDoNotFit(const QWidget& window) {
+    std::vector<std::string> names;
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        const bool shown = label->isVisible() && !label->text().isEmpty();
+        if (shown && !IsWhole(*label)) names.push_back(label->objectName().toStdString());
+    }
+    for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+        const int room = button->width() - 8;
+        const bool whole = button->fontMetrics().horizontalAdvance(button->text()) <= room;
+        if (button->isVisible() && !whole) names.push_back(button->objectName().toStdString());
+    }
+    return names;
+}
+
+}  // namespace keplin::test

@@ -1,0 +1,32 @@
+// One control of the model as it is drawn.
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QWidget>
+
+#include "ui/qt/look.h"
+
+namespace keplin::qt {
+
+class Drawn {
+  public:
+    virtual ~Drawn() = default;
+
+    // Takes over from the model what the aspect names.
+    virtual void Apply(Aspect aspect) = 0;
+
+    // Something beside the control changed: a neighbour came, went or moved.
+    virtual void NeighbourChanged() {}
+};
+
+// Takes over what every control has: visible, enabled, place. Other aspects are passed over.
+void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale, Aspect aspect);
+
+// Gives a new widget all that every control has.
+void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale);
+
+// Draws the rectangle's outline along its inside, one pixel of the screen wide.
+void DrawOutline(QPainter& painter, const QRectF& rectangle, const QColor& colour);
+
+}  // namespace keplin::qt

@@ -1,0 +1,27 @@
+// A label: a text that wraps, from the top of its place.
+#pragma once
+
+#include <QLabel>
+
+#include "ui/qt/drawn.h"
+
+namespace keplin::qt {
+
+class LabelWidget : public QLabel, public Drawn {
+  public:
+    LabelWidget(const Label& label, const Look& look, QWidget* parent);
+    void Apply(Aspect aspect) override;
+    void NeighbourChanged() override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void ApplyCaption();
+    [[nodiscard]] QColor TextColour() const;
+
+    const Label& label_;
+    const Look& look_;
+};
+
+}  // namespace keplin::qt

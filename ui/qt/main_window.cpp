@@ -1,0 +1,99 @@
+#include "ui/qt/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScreen>
+
+#include "ui/qt/font_choice.h"
+#include "ui/qt/picture_widget.h"
+#include "ui/qt/widget_maker.h"
+
+namespace keplin::qt {
+namespace {
+
+// No maximise control: the size is fixed.
+constexpr Qt::WindowFlags kFrame = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                   Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                                   Qt::WindowCloseButtonHint;
+
+}  // namespace
+
+MainWindow::MainWindow(ISPMain& model)
+    : QWidget(nullptr, kFrame),
+      model_(model),
+      look_{model.Window, model.Controls(), Scale(logicalDpiY()), {}},
+      focus_(*this) {
+    look_.font = ChooseFont(look_);
+    setFont(look_.font);
+    setWindowIcon(ProgramIcon());
+    WidgetMaker maker(*this, look_, focus_);
+    for (const Control* control : model.Controls())
+        control->Accept(maker);
+    drawn_ = std::move(maker.Made);
+    for (const Aspect aspect : {Aspect::Caption, Aspect::Height})
+        ApplyToWindow(aspect);
+    focus_.AfterChange();
+    model.Observe(this);
+}
+
+MainWindow::~MainWindow() {
+    model_.Observe(nullptr);
+}
+
+// Whether the window closes is the model's to decide; a desktop that logs out is not held up.
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (qApp->isSavingSession()) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    model_.Window.RequestClose();
+}
+
+void MainWindow::Changed(const Control& control, Aspect aspect) {
+    const bool reach = aspect == Aspect::Visible || aspect == Aspect::Enabled;
+    if (reach) focus_.BeforeChange();
+    Apply(control, aspect);
+    if (reach) focus_.AfterChange();
+}
+
+void MainWindow::Apply(const Control& control, Aspect aspect) {
+    if (&control == &model_.Window) {
+        ApplyToWindow(aspect);
+        return;
+    }
+    drawn_.at(&control)->Apply(aspect);
+    if (aspect != Aspect::Visible) return;
+    for (const auto& [other, drawn] : drawn_) {
+        if (other->Container == control.Container) drawn->NeighbourChanged();
+    }
+}
+
+void MainWindow::ApplyToWindow(Aspect aspect) {
+    const Form& form = model_.Window;
+    if (aspect == Aspect::Caption) setWindowTitle(ToQt(form.Caption));
+    if (aspect == Aspect::Height) ApplySize();
+    if (aspect == Aspect::Visible && form.Visible) ShowCentred();
+    if (aspect == Aspect::Visible && !form.Visible) hide();
+    if (aspect == Aspect::WindowState && form.WindowState.Get() == Form::State::Minimised) {
+        showMinimized();
+    }
+}
+
+void MainWindow::ApplySize() {
+    const Form& form = model_.Window;
+    setFixedSize(look_.scale.Pixels(form.Width), look_.scale.Pixels(form.ClientHeight()));
+    for (const auto& [control, drawn] : drawn_)
+        drawn->NeighbourChanged();
+}
+
+// The frame's height is the model's word: the desktop tells its own only after the window is shown.
+void MainWindow::ShowCentred() {
+    const QRect screenArea = screen()->availableGeometry();
+    QRect outer(0, 0, width(), look_.scale.Pixels(model_.Window.Height));
+    outer.moveCenter(screenArea.center());
+    move(outer.topLeft());
+    show();
+}
+
+}  // namespace keplin::qt

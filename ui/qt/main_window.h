@@ -1,0 +1,37 @@
+// The window on the desktop: draws the model and hands back what the technician does.
+#pragma once
+
+#include <QWidget>
+#include <unordered_map>
+
+#include "ui/isp_main.h"
+#include "ui/qt/drawn.h"
+#include "ui/qt/focus_keeper.h"
+
+namespace keplin::qt {
+
+class MainWindow : public QWidget, public Observer {
+  public:
+    // Draws the model as it stands and follows it from here on; hidden until the model's window is
+    // visible. The model must outlive it. Needs a QApplication.
+    explicit MainWindow(ISPMain& model);
+    ~MainWindow() override;
+
+    void Changed(const Control& control, Aspect aspect) override;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void Apply(const Control& control, Aspect aspect);
+    void ApplyToWindow(Aspect aspect);
+    void ApplySize();
+    void ShowCentred();
+
+    ISPMain& model_;
+    Look look_;
+    FocusKeeper focus_;
+    std::unordered_map<const Control*, Drawn*> drawn_;
+};
+
+}  // namespace keplin::qt

@@ -1,0 +1,68 @@
+#include "ui/qt/qt_desktop.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <thread>
+#include <utility>
+
+#include "ui/qt/open_dialog.h"
+
+namespace keplin::qt {
+
+QtDesktop::QtDesktop(QWidget& window, Hooks hooks) : window_(window), hooks_(std::move(hooks)) {}
+
+void QtDesktop::Yield() {
+    const int line = hooks_.idleDescriptor ? hooks_.idleDescriptor() : -1;
+    if (line >= 0) {
+        idle_.ProcessEvents(line);
+    } else {
+        QCoreApplication::processEvents();
+    }
+}
+
+void QtDesktop::Sleep(std::chrono::milliseconds duration) {
+    std::this_thread::sleep_for(duration);
+}
+
+std::chrono::milliseconds QtDesktop::Now() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now);
+}
+
+std::optional<std::string> QtDesktop::ShowOpen(const OpenFileRequest& request) {
+    return hooks_.openFile ? hooks_.openFile(request) : AskForFile(window_, request);
+}
+
+std::string QtDesktop::CurrentDirectory() {
+    return std::filesystem::current_path().string();
+}
+
+std::uint64_t QtDesktop::FileLength(const std::string& path) {
+    return std::filesystem::file_size(path);
+}
+
+std::string QtDesktop::FileDateTime(const std::string& path) {
+    const QDateTime time = QFileInfo(QFile::decodeName(path.c_str())).lastModified();
+    if (!time.isValid()) throw std::runtime_error("the file's date cannot be told: " + path);
+    return QLocale::system().toString(time, QLocale::ShortFormat).toStdString();
+}
+
+void QtDesktop::KeepAwake(bool awake) {
+    keepAwake_.Set(awake);
+}
+
+// Output that is still in a buffer goes out first; nothing else of the program runs any more.
+void QtDesktop::End() {
+    const int exitCode = hooks_.beforeEnd ? hooks_.beforeEnd() : 0;
+    std::fflush(nullptr);
+    std::_Exit(exitCode);
+}
+
+}  // namespace keplin::qt

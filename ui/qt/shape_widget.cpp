@@ -1,0 +1,30 @@
+#include "ui/qt/shape_widget.h"
+
+namespace keplin::qt {
+
+ShapeWidget::ShapeWidget(const Shape& shape, const Look& look, QWidget* parent)
+    : QWidget(parent), shape_(shape), look_(look) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_OpaquePaintEvent, shape.Fill.has_value());
+    ApplyCommon(*this, shape, look.scale);
+}
+
+// A step sideways only moves the widget: a width that changed with the rounding would shimmer.
+void ShapeWidget::Apply(Aspect aspect) {
+    if (aspect == Aspect::Left) {
+        move(look_.scale.Pixels(shape_.Left), y());
+    } else {
+        ApplyCommon(*this, shape_, look_.scale, aspect);
+    }
+}
+
+void ShapeWidget::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (shape_.Fill) {
+        painter.fillRect(rect(), ToQt(*shape_.Fill));
+    } else {
+        DrawOutline(painter, rect(), palette().color(QPalette::WindowText));
+    }
+}
+
+}  // namespace keplin::qt

@@ -1,0 +1,50 @@
+// A status bar along the bottom edge, and its text panels.
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+#include <vector>
+
+#include "ui/qt/drawn.h"
+
+namespace keplin::qt {
+
+class StatusBarWidget;
+
+// Shows as much of its text as there is room for: the beginning and the end. The whole text is in
+// the tool tip then.
+class PanelWidget : public QLabel, public Drawn {
+  public:
+    PanelWidget(const keplin::Panel& panel, StatusBarWidget& bar);
+    void Apply(Aspect aspect) override;
+
+    // The width in pixels that shows the text whole.
+    [[nodiscard]] int WidthOfText() const;
+    void ShowText();
+
+  protected:
+    void initStyleOption(QStyleOptionFrame* option) const override;
+
+  private:
+    const keplin::Panel& panel_;
+    StatusBarWidget& bar_;
+};
+
+class StatusBarWidget : public QWidget, public Drawn {
+  public:
+    StatusBarWidget(const StatusBar& bar, const Look& look, QWidget* parent);
+    void Apply(Aspect aspect) override;
+    void NeighbourChanged() override;
+
+    // Makes the widget of the bar's next panel.
+    PanelWidget& Add(const Panel& panel);
+    // Shares the width among the panels by what they show now.
+    void Arrange();
+
+  private:
+    const StatusBar& bar_;
+    const Look& look_;
+    std::vector<PanelWidget*> panels_;
+};
+
+}  // namespace keplin::qt

@@ -1,0 +1,76 @@
+#include "ui/qt/text_room.h"
+
+#include <QFontMetricsF>
+#include <QTextLayout>
+#include <QTextOption>
+#include <algorithm>
+
+namespace keplin::qt {
+namespace {
+
+constexpr float kBorder = 15;  // twips, of a label that has one
+
+// Lays the text out in a column `width` wide.
+void LayOut(QTextLayout& layout, Alignment alignment, double width) {
+    QTextOption option(alignment == Alignment::Centre ? Qt::AlignHCenter : Qt::AlignLeft);
+    option.setWrapMode(QTextOption::WordWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    double top = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, top});
+        top += line.height();
+    }
+    layout.endLayout();
+}
+
+// What a line really blackens from top to bottom; the blank above its letters does not count.
+QRectF InkOf(const QTextLine& line, const QString& text, const QFont& font) {
+    const QString part = text.mid(line.textStart(), line.textLength());
+    const QRectF ink = QFontMetricsF(font).tightBoundingRect(part);
+    const QRectF natural = line.naturalTextRect();
+    return {natural.left(), line.y() + line.ascent() + ink.top(), natural.width(), ink.height()};
+}
+
+bool Covers(const Control& sibling, const Control& label) {
+    return &sibling != &label && sibling.Visible && sibling.Container == label.Container;
+}
+
+}  // namespace
+
+TextRoom RoomOf(const Label& label, const Look& look) {
+    const QRect place = look.scale.PlaceOf(label);
+    const int border = label.Style.border ? std::max(1, look.scale.Pixels(kBorder)) : 0;
+    TextRoom room{QRectF(QPointF(0, 0), place.size()), {}};
+    room.area.adjust(border, border, -border, -border);
+    // A later control lies above an earlier one.
+    const auto self = std::find(look.controls.begin(), look.controls.end(), &label);
+    for (auto it = self; it != look.controls.end(); ++it) {
+        if (!Covers(**it, label)) continue;
+        const QRect other = look.scale.PlaceOf(**it);
+        if (other.intersects(place)) room.covered.emplace_back(other.translated(-place.topLeft()));
+    }
+    return room;
+}
+
+bool Fits(const QString& text, const QFont& font, Alignment alignment, const TextRoom& room) {
+    if (text.isEmpty()) return true;
+    QTextLayout layout(text, font);
+    LayOut(layout, alignment, room.area.width());
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QRectF ink = InkOf(layout.lineAt(i), text, font).translated(room.area.topLeft());
+        const auto hidden = [&](const QRectF& cover) { return cover.intersects(ink); };
+        if (!room.area.contains(ink)) return false;
+        if (std::any_of(room.covered.begin(), room.covered.end(), hidden)) return false;
+    }
+    return true;
+}
+
+void DrawWrapped(QPainter& painter, const QString& text, Alignment alignment, const QRectF& area) {
+    QTextLayout layout(text, painter.font());
+    LayOut(layout, alignment, area.width());
+    layout.draw(&painter, area.topLeft());
+}
+
+}  // namespace keplin::qt
