@@ -52,7 +52,8 @@ TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
     EXPECT_LT(fiftyYields(false), silent);
     ASSERT_EQ(write(line[1], "x", 1), 1);
     EXPECT_LT(fiftyYields(true), silent);
-    for (const int end : line) close(end);
+    for (const int end : line)
+        close(end);
 }
 
 TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
