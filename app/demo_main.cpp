@@ -35,7 +35,7 @@ class Demonstration {
     Demonstration(const Demonstration&) = delete;
     Demonstration& operator=(const Demonstration&) = delete;
 
-    int Run() {
+    [[noreturn]] void Run() {
         // The open-file dialog starts here.
         QDir::setCurrent(QFileInfo(QFile::decodeName(options_.file.c_str())).absolutePath());
         if (options_.walk) {
@@ -43,7 +43,8 @@ class Demonstration {
             QTimer::singleShot(0, [this] { walk_.Go(); });
         }
         program_.handlers.Main();
-        return QApplication::exec();
+        QApplication::exec();  // ends by itself only when the desktop logs out
+        program_.desktop.End();
     }
 
   private:
@@ -113,7 +114,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("keplin-demo");
     QApplication::setDesktopFileName("keplin-demo");
     try {
-        return keplin::Demonstration(std::move(*options)).Run();
+        keplin::Demonstration(std::move(*options)).Run();
     } catch (const std::exception& error) {
         std::cerr << "keplin-demo: " << error.what() << "\n";
         return 2;

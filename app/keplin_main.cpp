@@ -10,5 +10,6 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName("keplin");
     keplin::Program program(keplin::NumberedComputerPorts(), {});
     program.handlers.Main();
-    return QApplication::exec();
+    QApplication::exec();  // ends by itself only when the desktop logs out
+    program.desktop.End();
 }

@@ -36,6 +36,12 @@ TEST_F(QtWindow, EveryControlStandsInItsPlace) {
     EXPECT_EQ(checked, 33);
 }
 
+TEST(Scale, NeighboursMeetAtEveryScale) {
+    const qt::Scale scale(144);
+    EXPECT_EQ(scale.Pixels(Place{0, 0, 15, 255}), QRect(0, 0, 2, 26));
+    EXPECT_EQ(scale.Pixels(Place{15, 255, 15, 255}), QRect(2, 26, 1, 25));
+}
+
 TEST_F(QtWindow, FollowsTheModel) {
     model.Shape2.Left = 5160;
     model.Command1.Caption = "Fish & Chips";
@@ -107,6 +113,7 @@ TEST_F(QtWindow, ClicksAndKeysPressWhatCanBePressed) {
     Type(Qt::Key_Space, true);
     EXPECT_EQ(presses, 4);
     model.Next_1.Enabled = false;
+    EXPECT_FALSE(Find(model.Next_1)->isEnabled());
     Find<QPushButton>(model.Next_1)->click();
     EXPECT_EQ(presses, 4);
 }
@@ -121,8 +128,12 @@ TEST_F(QtWindow, TheFocusGoesToAButtonThatCanBePressed) {
     model.Next_2.Enabled = false;
     Show(model.PicSetup);
     EXPECT_EQ(Focused(), "cmdPortTest");
-    model.cmdExit.Enabled = false;
+    model.Next_2.Enabled = true;
+    EXPECT_EQ(Focused(), "cmdPortTest");
     model.cmdPortTest.Enabled = false;
+    EXPECT_EQ(Focused(), "Next_2");
+    model.cmdExit.Enabled = false;
+    model.Next_2.Enabled = false;
     EXPECT_EQ(Focused(), "");
     model.Next_2.Enabled = true;
     EXPECT_EQ(Focused(), "Next_2");

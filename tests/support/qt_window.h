@@ -44,14 +44,15 @@ class QtWindow : public testing::Test {
 
     std::string Focused() {
         const QWidget* focused = window.focusWidget();
-        return focused == &window ? "" : focused->objectName().toStdString();
+        return focused == nullptr || focused == &window ? "" : focused->objectName().toStdString();
     }
 
     // One key, sent to whatever has the focus.
     void Type(int key, bool repeated = false) {
+        QWidget* target = window.focusWidget() == nullptr ? &window : window.focusWidget();
         for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             QKeyEvent event(type, key, Qt::NoModifier, {}, repeated);
-            QCoreApplication::sendEvent(window.focusWidget(), &event);
+            QCoreApplication::sendEvent(target, &event);
         }
     }
 
@@ -59,8 +60,9 @@ class QtWindow : public testing::Test {
     template <typename Condition>
     bool Until(Condition&& condition) {
         const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-        while (!condition() && std::chrono::steady_clock::now() < end)
+        while (!condition() && std::chrono::steady_clock::now() < end) {
             desktop.Yield();
+        }
         return condition();
     }
 

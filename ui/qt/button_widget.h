@@ -8,7 +8,7 @@
 
 namespace keplin::qt {
 
-class ButtonWidget : public QPushButton, public Drawn {
+class ButtonWidget final : public QPushButton, public Drawn {
   public:
     ButtonWidget(const Button& button, const Look& look, FocusKeeper& focus, QWidget* parent);
     void Apply(Aspect aspect) override;

@@ -65,9 +65,9 @@ bool EveryTextFits(const Look& look) {
 QFont ChooseFont(const Look& look) {
     Look tried = look;
     const QStringList families = Families();
-    for (double points = kLargest; points >= kSmallest; points -= kStep) {
+    for (int step = 0; kLargest - step * kStep >= kSmallest; ++step) {
         for (const QString& family : families) {
-            tried.font = Font(family, points);
+            tried.font = Font(family, kLargest - step * kStep);
             if (EveryTextFits(tried)) return tried.font;
         }
     }

@@ -9,7 +9,7 @@
 namespace keplin::qt {
 
 // Keeps its colour whatever the desktop's theme is; what stands on it keeps the theme's.
-class PageWidget : public QWidget, public Drawn {
+class PageWidget final : public QWidget, public Drawn {
   public:
     PageWidget(const Page& page, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;
@@ -23,7 +23,7 @@ class PageWidget : public QWidget, public Drawn {
 };
 
 // A group box to the screen reader; painted plainly, so that its inside is the whole place.
-class FrameWidget : public QGroupBox, public Drawn {
+class FrameWidget final : public QGroupBox, public Drawn {
   public:
     FrameWidget(const Frame& frame, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;

@@ -7,7 +7,7 @@
 
 namespace keplin::qt {
 
-class LabelWidget : public QLabel, public Drawn {
+class LabelWidget final : public QLabel, public Drawn {
   public:
     LabelWidget(const Label& label, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;

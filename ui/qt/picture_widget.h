@@ -8,7 +8,7 @@
 
 namespace keplin::qt {
 
-class PictureWidget : public QLabel, public Drawn {
+class PictureWidget final : public QLabel, public Drawn {
   public:
     PictureWidget(const Picture& picture, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;

@@ -9,7 +9,7 @@
 
 namespace keplin::qt {
 
-class ProgressBarWidget : public QProgressBar, public Drawn {
+class ProgressBarWidget final : public QProgressBar, public Drawn {
   public:
     ProgressBarWidget(const ProgressBar& bar, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;

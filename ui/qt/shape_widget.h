@@ -7,7 +7,7 @@
 
 namespace keplin::qt {
 
-class ShapeWidget : public QWidget, public Drawn {
+class ShapeWidget final : public QWidget, public Drawn {
   public:
     ShapeWidget(const Shape& shape, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;

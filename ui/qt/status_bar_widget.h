@@ -13,7 +13,7 @@ class StatusBarWidget;
 
 // Shows as much of its text as there is room for: the beginning and the end. The whole text is in
 // the tool tip then.
-class PanelWidget : public QLabel, public Drawn {
+class PanelWidget final : public QLabel, public Drawn {
   public:
     PanelWidget(const keplin::Panel& panel, StatusBarWidget& bar);
     void Apply(Aspect aspect) override;
@@ -30,7 +30,7 @@ class PanelWidget : public QLabel, public Drawn {
     StatusBarWidget& bar_;
 };
 
-class StatusBarWidget : public QWidget, public Drawn {
+class StatusBarWidget final : public QWidget, public Drawn {
   public:
     StatusBarWidget(const StatusBar& bar, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;

@@ -8,7 +8,9 @@
 namespace keplin::qt {
 namespace {
 
-constexpr float kBorder = 15;  // twips, of a label that has one
+// Twips that a border takes of its label: the line, and beside the text some room.
+constexpr float kBorder = 15;
+constexpr float kBorderAndRoom = 45;
 
 // Lays the text out in a column `width` wide.
 void LayOut(QTextLayout& layout, Alignment alignment, double width) {
@@ -41,9 +43,12 @@ bool Covers(const Control& sibling, const Control& label) {
 
 TextRoom RoomOf(const Label& label, const Look& look) {
     const QRect place = look.scale.PlaceOf(label);
-    const int border = label.Style.border ? std::max(1, look.scale.Pixels(kBorder)) : 0;
     TextRoom room{QRectF(QPointF(0, 0), place.size()), {}};
-    room.area.adjust(border, border, -border, -border);
+    if (label.Style.border) {
+        const int above = look.scale.Pixels(kBorder);
+        const int beside = look.scale.Pixels(kBorderAndRoom);
+        room.area.adjust(beside, above, -beside, -above);
+    }
     // A later control lies above an earlier one.
     const auto self = std::find(look.controls.begin(), look.controls.end(), &label);
     for (auto it = self; it != look.controls.end(); ++it) {

@@ -3,6 +3,7 @@
 namespace keplin::qt {
 
 TickTimer::TickTimer(const Timer& timer, QObject* parent) : QTimer(parent), timer_(timer) {
+    setObjectName(ToQt(timer.Name));
     setTimerType(Qt::PreciseTimer);
     setInterval(timer.Interval);
     callOnTimeout(this, [this] { timer_.Tick(); });

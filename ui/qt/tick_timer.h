@@ -8,7 +8,7 @@
 
 namespace keplin::qt {
 
-class TickTimer : public QTimer, public Drawn {
+class TickTimer final : public QTimer, public Drawn {
   public:
     TickTimer(const Timer& timer, QObject* parent);
     void Apply(Aspect aspect) override;
