@@ -9,7 +9,7 @@ bool LineReader::AtEnd() {
     ReadBlockIfEmpty();
     if (afterReturn_ && !unread_.empty()) {
         afterReturn_ = false;
-        if (unread_.front() == '\n') unread_ = unread_.subspan(1);
+        if (unread_.front() == '\n') unread_.remove_prefix(1);
         ReadBlockIfEmpty();
     }
     return unread_.empty();
@@ -18,11 +18,11 @@ bool LineReader::AtEnd() {
 std::string LineReader::ReadLine() {
     std::string line;
     while (!AtEnd()) {
-        const auto end = std::find(unread_.begin(), unread_.end(), '\r');
-        line.append(unread_.begin(), end);
-        unread_ = std::span<const char>(end, unread_.end());
+        const std::size_t length = std::min(unread_.find('\r'), unread_.size());
+        line.append(unread_, 0, length);
+        unread_.remove_prefix(length);
         if (!unread_.empty()) {
-            unread_ = unread_.subspan(1);
+            unread_.remove_prefix(1);
             afterReturn_ = true;
             break;
         }
@@ -34,7 +34,7 @@ void LineReader::ReadBlockIfEmpty() {
     if (!unread_.empty() || file_.eof()) return;
     file_.read(block_.data(), static_cast<std::streamsize>(block_.size()));
     if (file_.fail() && !file_.eof()) throw std::runtime_error("read error");
-    unread_ = std::span(block_).first(static_cast<std::size_t>(file_.gcount()));
+    unread_ = {block_.data(), static_cast<std::size_t>(file_.gcount())};
 }
 
 }  // namespace keplin

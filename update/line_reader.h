@@ -3,8 +3,8 @@
 
 #include <array>
 #include <istream>
-#include <span>
 #include <string>
+#include <string_view>
 
 namespace keplin {
 
@@ -26,7 +26,7 @@ class LineReader {
 
     std::istream& file_;
     std::array<char, 65536> block_{};
-    std::span<const char> unread_;
+    std::string_view unread_;
     bool afterReturn_ = false;  // a line feed that comes next belongs to the end of the last line
 };
 
