@@ -50,7 +50,7 @@ std::int16_t HexByteValue(std::string_view text) {
 }
 
 std::int16_t HexDigitValue(std::string_view text) {
-    return text.size() == 1 ? static_cast<std::int16_t>(DigitValue(text.front())) : 0;
+    return static_cast<std::int16_t>(text.size() == 1 ? DigitValue(text.front()) : 0);
 }
 
 }  // namespace keplin

@@ -1,11 +1,10 @@
 // The progress bar, repainted a limited number of times a second however often its value changes.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QProgressBar>
-#include <QTimer>
 
 #include "ui/qt/drawn.h"
+#include "ui/qt/pace.h"
 
 namespace keplin::qt {
 
@@ -15,14 +14,11 @@ class ProgressBarWidget final : public QProgressBar, public Drawn {
     void Apply(Aspect aspect) override;
 
   private:
-    // Shows how much is done: at once, or when the last time is long enough ago.
-    void ShowSoon();
-    void ShowNow();
+    void ShowDone();
 
     const ProgressBar& bar_;
     const Look& look_;
-    QElapsedTimer sinceShown_;
-    QTimer later_;
+    Pace pace_;
 };
 
 }  // namespace keplin::qt

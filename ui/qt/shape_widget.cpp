@@ -1,21 +1,30 @@
 #include "ui/qt/shape_widget.h"
 
 namespace keplin::qt {
+namespace {
+
+constexpr int kPauseMs = 1000 / 60;  // between two steps sideways
+
+}  // namespace
 
 ShapeWidget::ShapeWidget(const Shape& shape, const Look& look, QWidget* parent)
-    : QWidget(parent), shape_(shape), look_(look) {
+    : QWidget(parent), shape_(shape), look_(look), pace_(kPauseMs, [this] { MoveSideways(); }) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent, shape.Fill.has_value());
     ApplyCommon(*this, shape, look.scale);
 }
 
-// A step sideways only moves the widget: a width that changed with the rounding would shimmer.
 void ShapeWidget::Apply(Aspect aspect) {
     if (aspect == Aspect::Left) {
-        move(look_.scale.Pixels(shape_.Left), y());
+        pace_.ShowSoon();
     } else {
         ApplyCommon(*this, shape_, look_.scale, aspect);
     }
+}
+
+// Only moves the widget: a width that changed with the rounding would shimmer.
+void ShapeWidget::MoveSideways() {
+    move(look_.scale.Pixels(shape_.Left), y());
 }
 
 void ShapeWidget::paintEvent(QPaintEvent*) {

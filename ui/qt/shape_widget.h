@@ -1,9 +1,11 @@
-// A rectangle: filled, or an outline one pixel wide in the window's text colour.
+// A rectangle: filled, or an outline one pixel wide in the window's text colour. It moves sideways
+// a limited number of times a second however often its place changes.
 #pragma once
 
 #include <QWidget>
 
 #include "ui/qt/drawn.h"
+#include "ui/qt/pace.h"
 
 namespace keplin::qt {
 
@@ -16,8 +18,11 @@ class ShapeWidget final : public QWidget, public Drawn {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void MoveSideways();
+
     const Shape& shape_;
     const Look& look_;
+    Pace pace_;
 };
 
 }  // namespace keplin::qt

@@ -1,0 +1,28 @@
+#include "ui/qt/pace.h"
+
+#include <utility>
+
+namespace keplin::qt {
+
+Pace::Pace(int pauseMs, std::function<void()> show) : pauseMs_(pauseMs), show_(std::move(show)) {
+    later_.setSingleShot(true);
+    later_.callOnTimeout([this] { ShowNow(); });
+}
+
+void Pace::ShowSoon() {
+    if (later_.isActive()) return;
+    const auto passed = sinceShown_.isValid() ? sinceShown_.elapsed() : pauseMs_;
+    if (passed >= pauseMs_) {
+        ShowNow();
+    } else {
+        later_.start(pauseMs_ - static_cast<int>(passed));
+    }
+}
+
+void Pace::ShowNow() {
+    later_.stop();
+    show_();
+    sinceShown_.start();
+}
+
+}  // namespace keplin::qt
