@@ -1,0 +1,11 @@
+// keplin-bench-start: the program up to its first page.
+#include "app/program.h"
+#include "benchmarks/painted.h"
+#include "device/port_list.h"
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    keplin::Program program(keplin::NumberedComputerPorts(), {});
+    program.handlers.Main();
+    return keplin::benchmarks::TellWhenPainted();
+}
