@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QTimer>
 #include <array>
 #include <chrono>
@@ -54,6 +56,19 @@ TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
     EXPECT_LT(fiftyYields(true), silent);
     for (const int end : line)
         close(end);
+}
+
+TEST_F(QtDesktopTest, ANameOfNoFileCanBeTypedAndNoListOfNamesStaysBehind) {
+    QTimer::singleShot(0, &window, [&] {
+        const auto* dialog = window.findChild<QFileDialog*>();
+        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+        EXPECT_EQ(name->completer(), nullptr);
+        EXPECT_EQ(dialog->selectedNameFilter(), "QDX-470 Files (*.HEX)");
+        name->setText("missing.HEX");
+        emit name->returnPressed();
+    });
+    const auto answer = desktop.ShowOpen({"QDX-470 Files (*.HEX)|*.HEX", "Select", "/tmp", true});
+    EXPECT_EQ(answer, "/tmp/missing.HEX");
 }
 
 TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
 
 #include "ui/qt/look.h"
 
@@ -16,6 +17,9 @@ std::optional<std::string> AskForFile(QWidget& window, const OpenFileRequest& re
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setNameFilter(ToQt(request.filter.substr(0, request.filter.find('|'))));
     dialog->setDirectory(QFile::decodeName(request.initialDirectory.c_str()));
+    // Names to complete would stay on the screen after Enter and keep the keyboard from the window.
+    for (QLineEdit* edit : dialog->findChildren<QLineEdit*>())
+        edit->setCompleter(nullptr);
     if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty()) return {};
     return QFile::encodeName(dialog->selectedFiles().front()).toStdString();
 }
