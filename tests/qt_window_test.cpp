@@ -162,6 +162,20 @@ TEST_F(QtWindow, WhileAPressIsAtWorkALostFocusPressesNothing) {
     EXPECT_EQ(Focused(), "cmdPortTest");
 }
 
+TEST_F(QtWindow, AKeyStruckTwiceDoesNotPressTheButtonThatTheFirstLedTo) {
+    int presses = 0;
+    model.Command1.OnClick = [&] { ++presses; };
+    QApplication::setDoubleClickInterval(200);
+    Show(model.PicProgram);
+    EXPECT_EQ(Focused(), "Command1");
+    for (const int key : {Qt::Key_Return, Qt::Key_Space})
+        Type(key);
+    EXPECT_EQ(presses, 0);
+    desktop.Sleep(std::chrono::milliseconds(200));
+    Type(Qt::Key_Return);
+    EXPECT_EQ(presses, 1);
+}
+
 TEST_F(QtWindow, AskedToCloseItAsksTheModel) {
     int requests = 0;
     model.Window.OnCloseRequest = [&] { ++requests; };

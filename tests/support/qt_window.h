@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <chrono>
 #include <string>
@@ -27,6 +27,7 @@ class QtWindow : public testing::Test {
         ShowPage(model.PicGettingStarted);
         model.Window.Height = 5460;
         model.Window.Visible = true;
+        QApplication::setDoubleClickInterval(0);
         QCoreApplication::processEvents();
     }
 

@@ -7,7 +7,7 @@ namespace keplin::qt {
 
 ButtonWidget::ButtonWidget(const Button& button, const Look& look, FocusKeeper& focus,
                            QWidget* parent)
-    : QPushButton(parent), button_(button), look_(look) {
+    : QPushButton(parent), button_(button), look_(look), focus_(focus) {
     setFocusPolicy(Qt::StrongFocus);
     ApplyCommon(*this, button, look.scale);
     ApplyCaption();
@@ -26,10 +26,12 @@ void ButtonWidget::ApplyCaption() {
     setText(ToQt(button_.Caption).replace('&', "&&"));
 }
 
-// A key that is held down presses once.
+// A key that is held down presses once, and one that was struck twice does not start what the first
+// has only led to.
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->isAutoRepeat() && (enter || event->key() == Qt::Key_Space)) return;
+    const bool meant = !event->isAutoRepeat() && !focus_.CameJustNow();
+    if (!meant && (enter || event->key() == Qt::Key_Space)) return;
     if (enter) {
         click();
     } else {

@@ -22,6 +22,7 @@ class ButtonWidget final : public QPushButton, public Drawn {
 
     const Button& button_;
     const Look& look_;
+    const FocusKeeper& focus_;
 };
 
 }  // namespace keplin::qt

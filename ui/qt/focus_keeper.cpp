@@ -1,5 +1,6 @@
 #include "ui/qt/focus_keeper.h"
 
+#include <QApplication>
 #include <algorithm>
 
 namespace keplin::qt {
@@ -34,6 +35,10 @@ void FocusKeeper::Press(const Button& button) {
         beforePress_.clear();
         pressed_ = nullptr;
     }
+}
+
+bool FocusKeeper::CameJustNow() const {
+    return sinceSettled_.isValid() && sinceSettled_.elapsed() < QApplication::doubleClickInterval();
 }
 
 const FocusKeeper::Entry* FocusKeeper::Focused() const {
@@ -77,7 +82,10 @@ void FocusKeeper::Settle() {
     if (focused != nullptr && focused->button != provisional_) return;
     const Entry* best = Best();
     if (best == nullptr) return;
-    if (best != focused) best->widget->setFocus(Qt::OtherFocusReason);
+    if (best != focused) {
+        best->widget->setFocus(Qt::OtherFocusReason);
+        sinceSettled_.start();
+    }
     provisional_ = best->button->Container == nullptr ? best->button : nullptr;
 }
 
