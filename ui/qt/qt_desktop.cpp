@@ -15,6 +15,12 @@
 #include "ui/qt/open_dialog.h"
 
 namespace keplin::qt {
+namespace {
+
+// How late the system may wake a sleeper.
+constexpr std::chrono::microseconds kLateness{250};
+
+}  // namespace
 
 QtDesktop::QtDesktop(QWidget& window, Hooks hooks) : window_(window), hooks_(std::move(hooks)) {}
 
@@ -27,8 +33,14 @@ void QtDesktop::Yield() {
     }
 }
 
+// An update sleeps once for each line of its file, so the lateness would add up: the end of a sleep
+// is awaited awake.
 void QtDesktop::Sleep(std::chrono::milliseconds duration) {
-    std::this_thread::sleep_for(duration);
+    using std::chrono::steady_clock;
+    const auto end = steady_clock::now() + duration;
+    std::this_thread::sleep_until(end - kLateness);
+    while (steady_clock::now() < end) {
+    }
 }
 
 std::chrono::milliseconds QtDesktop::Now() {
