@@ -17,7 +17,7 @@ constexpr double kLargest = 11 * kPixel;
 constexpr double kSmallest = 6 * kPixel;
 constexpr double kStep = kPixel / 2;
 
-// The narrow ones first, then what most systems have.
+// The narrow ones first, then what most systems have; behind them the desktop's own.
 constexpr std::array kFamilies = {"Liberation Sans", "Arimo",       "Arial",
                                   "Helvetica",       "Nimbus Sans", "FreeSans",
                                   "Noto Sans",       "Cantarell",   "Open Sans",
@@ -25,12 +25,8 @@ constexpr std::array kFamilies = {"Liberation Sans", "Arimo",       "Arial",
                                   "DejaVu Sans"};
 
 QStringList Families() {
-    QStringList present;
-    for (const char* family : kFamilies) {
-        if (QFontDatabase::hasFamily(family)) present << family;
-    }
-    if (present.isEmpty()) present << QApplication::font().family();
-    return present;
+    QStringList families(kFamilies.begin(), kFamilies.end());
+    return families << QApplication::font().family();
 }
 
 QFont Font(const QString& family, double points) {
@@ -62,12 +58,13 @@ bool EveryTextFits(const Look& look) {
 
 }  // namespace
 
+// Only a family whose turn comes is looked up, which takes the system a while.
 QFont ChooseFont(const Look& look) {
     Look tried = look;
-    const QStringList families = Families();
-    for (int step = 0; kLargest - step * kStep >= kSmallest; ++step) {
-        for (const QString& family : families) {
-            tried.font = Font(family, kLargest - step * kStep);
+    for (double points = kLargest; points >= kSmallest; points -= kStep) {
+        for (const QString& family : Families()) {
+            if (!QFontDatabase::hasFamily(family)) continue;
+            tried.font = Font(family, points);
             if (EveryTextFits(tried)) return tried.font;
         }
     }

@@ -83,8 +83,8 @@ void MainWindow::ApplyToWindow(Aspect aspect) {
 void MainWindow::ApplySize() {
     const Form& form = model_.Window;
     setFixedSize(look_.scale.Pixels(form.Width), look_.scale.Pixels(form.ClientHeight()));
-    for (const auto& [control, drawn] : drawn_)
-        drawn->NeighbourChanged();
+    for (const StatusBar* bar : {&model_.StatusBar1, &model_.StatusBar2})
+        drawn_.at(bar)->Apply(Aspect::Top);  // they follow the bottom edge
 }
 
 // The frame's height is the model's word: the desktop tells its own only after the window is shown.

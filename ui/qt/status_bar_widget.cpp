@@ -64,14 +64,10 @@ StatusBarWidget::StatusBarWidget(const StatusBar& bar, const Look& look, QWidget
     setVisible(bar.Visible);
 }
 
-void StatusBarWidget::Apply(Aspect aspect) {
-    if (aspect == Aspect::Visible) setVisible(bar_.Visible);
-    NeighbourChanged();
-}
-
 // The bar follows the window's bottom edge.
-void StatusBarWidget::NeighbourChanged() {
+void StatusBarWidget::Apply(Aspect) {
     const float top = look_.form.ClientHeight() - bar_.AboveBottom;
+    setVisible(bar_.Visible);
     setGeometry(look_.scale.Pixels(Place{0, top, look_.form.Width, bar_.Height}));
     Arrange();
 }

@@ -34,7 +34,6 @@ class StatusBarWidget final : public QWidget, public Drawn {
   public:
     StatusBarWidget(const StatusBar& bar, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;
-    void NeighbourChanged() override;
 
     // Makes the widget of the bar's next panel.
     PanelWidget& Add(const Panel& panel);
