@@ -57,6 +57,17 @@ class QtWindow : public testing::Test {
         }
     }
 
+    // The left button of the mouse, pressed and let go on the control.
+    void Click(const Control& control) {
+        QWidget* target = Find(control);
+        const QPointF at = target->rect().center();
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, target->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+                              Qt::NoModifier);
+            QCoreApplication::sendEvent(target, &event);
+        }
+    }
+
     // Processes events until the condition holds; false after five seconds.
     template <typename Condition>
     bool Until(Condition&& condition) {

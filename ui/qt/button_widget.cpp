@@ -1,5 +1,6 @@
 #include "ui/qt/button_widget.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QStyleOptionButton>
 
@@ -7,7 +8,7 @@ namespace keplin::qt {
 
 ButtonWidget::ButtonWidget(const Button& button, const Look& look, FocusKeeper& focus,
                            QWidget* parent)
-    : QPushButton(parent), button_(button), look_(look), focus_(focus) {
+    : QPushButton(parent), button_(button), look_(look) {
     setFocusPolicy(Qt::StrongFocus);
     ApplyCommon(*this, button, look.scale);
     ApplyCaption();
@@ -26,17 +27,34 @@ void ButtonWidget::ApplyCaption() {
     setText(ToQt(button_.Caption).replace('&', "&&"));
 }
 
-// A key that is held down presses once, and one that was struck twice does not start what the first
-// has only led to.
+void ButtonWidget::changeEvent(QEvent* event) {
+    QPushButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange) sinceReady_.start();
+}
+
+void ButtonWidget::showEvent(QShowEvent* event) {
+    QPushButton::showEvent(event);
+    sinceReady_.start();
+}
+
+bool ButtonWidget::CameJustNow() const {
+    return sinceReady_.isValid() && sinceReady_.elapsed() < QApplication::doubleClickInterval();
+}
+
+// A key that is held down presses once.
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool meant = !event->isAutoRepeat() && !focus_.CameJustNow();
+    const bool meant = !event->isAutoRepeat() && !CameJustNow();
     if (!meant && (enter || event->key() == Qt::Key_Space)) return;
     if (enter) {
         click();
     } else {
         QPushButton::keyPressEvent(event);
     }
+}
+
+void ButtonWidget::mousePressEvent(QMouseEvent* event) {
+    if (!CameJustNow()) QPushButton::mousePressEvent(event);
 }
 
 // The focus shows from the start, not only after the first use of the keyboard.

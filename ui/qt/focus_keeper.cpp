@@ -1,6 +1,5 @@
 #include "ui/qt/focus_keeper.h"
 
-#include <QApplication>
 #include <algorithm>
 
 namespace keplin::qt {
@@ -35,10 +34,6 @@ void FocusKeeper::Press(const Button& button) {
         beforePress_.clear();
         pressed_ = nullptr;
     }
-}
-
-bool FocusKeeper::CameJustNow() const {
-    return sinceSettled_.isValid() && sinceSettled_.elapsed() < QApplication::doubleClickInterval();
 }
 
 const FocusKeeper::Entry* FocusKeeper::Focused() const {
@@ -82,10 +77,7 @@ void FocusKeeper::Settle() {
     if (focused != nullptr && focused->button != provisional_) return;
     const Entry* best = Best();
     if (best == nullptr) return;
-    if (best != focused) {
-        best->widget->setFocus(Qt::OtherFocusReason);
-        sinceSettled_.start();
-    }
+    if (best != focused) best->widget->setFocus(Qt::OtherFocusReason);
     provisional_ = best->button->Container == nullptr ? best->button : nullptr;
 }
 

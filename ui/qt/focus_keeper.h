@@ -2,7 +2,6 @@
 // while a press is still at work.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QWidget>
 #include <vector>
 
@@ -30,10 +29,6 @@ class FocusKeeper {
     // the pressed one again.
     void Press(const Button& button);
 
-    // The focus has just gone to its button by itself: a key that is pressed now, the second of a
-    // double press or one that waited for a pause to end, was meant for what stood there before.
-    [[nodiscard]] bool CameJustNow() const;
-
   private:
     struct Entry {
         const Button* button;
@@ -53,7 +48,6 @@ class FocusKeeper {
     const Button* pressed_ = nullptr;         // the outermost press at work, or just done
     const Button* last_ = nullptr;            // the last that lost the focus
     const Button* provisional_ = nullptr;     // has the focus only until the page has a button
-    QElapsedTimer sinceSettled_;              // since the focus last went to a button by itself
     int pressing_ = 0;
 };
 
