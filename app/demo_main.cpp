@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <string>
 
 #include "app/change_printer.h"
 #include "app/demo_controller.h"
@@ -76,23 +77,26 @@ class Demonstration {
     }
 
     int Judge(const DemoController::Memory& memory) const {
-        if (!walk_.Completed()) {
-            std::cout << "The completion page was not reached." << std::endl;
-            return 1;
-        }
+        const std::string complaint = Complaint(memory);
+        std::cout << (complaint.empty() ? "The update is complete, and the controller's memory "
+                                          "holds exactly the file's data."
+                                        : complaint)
+                  << std::endl;
+        return complaint.empty() ? 0 : 1;
+    }
+
+    // What is wrong after a walk, or nothing.
+    std::string Complaint(const DemoController::Memory& memory) const {
+        if (!walk_.Completed()) return "The completion page was not reached.";
         const DemoController::Memory image = ImageOfFile(options_.file);
-        const auto [is, wanted] =
-            std::mismatch(memory.begin(), memory.end(), image.begin(), image.end());
-        if (is == memory.end() && wanted == image.end()) {
-            std::cout << "The update is complete, and the controller's memory holds exactly the "
-                         "file's data."
-                      << std::endl;
-            return 0;
+        if (image.empty()) {
+            return "The completion page stands, but what the file describes is no memory.";
         }
-        std::cout << "The completion page stands, but the controller's memory differs from the "
-                     "file at address "
-                  << is - memory.begin() << "." << std::endl;
-        return 1;
+        const auto different = std::mismatch(memory.begin(), memory.end(), image.begin()).first;
+        if (different == memory.end()) return "";
+        return "The completion page stands, but the controller's memory differs from the file at "
+               "address " +
+               std::to_string(different - memory.begin()) + ".";
     }
 
     DemoOptions options_;

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <filesystem>
 #include <iostream>
 #include <stdexcept>
 
@@ -64,7 +65,7 @@ void AddOptions(QCommandLineParser& parser) {
         {"again", "With --walk: try a second time after a step that failed."},
         {"file", "The update file (default: the sample).", "PATH"},
         {"memory", "Write the controller's 64 KiB of memory as they are at the end.", "PATH"},
-        {"pictures", "Save a picture of the window at each stage.", "DIR"},
+        {"pictures", "With --walk: save a picture of the window at each stage.", "DIR"},
         {"fault", "Let exchange K fail, or all from K on (K+); --fault help lists the faults.",
          "NAME@K"},
     });
@@ -83,11 +84,18 @@ DemoOptions Read(const QCommandLineParser& parser, const char* program) {
     DemoOptions options;
     options.walk = parser.isSet("walk");
     options.again = parser.isSet("again");
-    if (options.again && !options.walk) throw WrongOption("--again goes with --walk");
+    for (const char* option : {"again", "pictures"}) {
+        if (parser.isSet(option) && !options.walk) {
+            throw WrongOption("--" + std::string(option) + " goes with --walk");
+        }
+    }
     for (const QString& text : parser.values("fault"))
         options.faults.push_back(ReadFault(text));
     options.file = ReadableFile(parser.isSet("file") ? parser.value("file") : SampleFile(program));
     if (parser.isSet("memory")) options.memory = WritableFile(parser.value("memory"));
+    if (!options.memory.empty() && std::filesystem::equivalent(options.memory, options.file)) {
+        throw WrongOption("the memory would replace the update file: " + options.memory);
+    }
     if (parser.isSet("pictures")) options.pictures = WritableFolder(parser.value("pictures"));
     return options;
 }
