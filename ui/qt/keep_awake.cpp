@@ -3,23 +3,28 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusUnixFileDescriptor>
+#include <array>
 
 namespace keplin::qt {
 namespace {
 
 constexpr int kAnswerMs = 1000;
 
-// The computer stays awake while the descriptor is open; an invalid one where nobody answers.
-QDBusUnixFileDescriptor Inhibit() {
+// The lock is held while the descriptor is open; an invalid one where it was not given.
+QDBusUnixFileDescriptor Lock(const char* what) {
     QDBusMessage request =
         QDBusMessage::createMethodCall("org.freedesktop.login1", "/org/freedesktop/login1",
                                        "org.freedesktop.login1.Manager", "Inhibit");
-    request << "sleep:idle:handle-lid-switch"
-            << "Keplin"
+    request << what << "Keplin"
             << "An update is being installed into a controller"
             << "block";
     const QDBusMessage answer = QDBusConnection::systemBus().call(request, QDBus::Block, kAnswerMs);
     return answer.arguments().value(0).value<QDBusUnixFileDescriptor>();
+}
+
+// Asked for one by one: a session that may not have one of them still gets the others.
+std::array<QDBusUnixFileDescriptor, 3> Locks() {
+    return {Lock("sleep"), Lock("idle"), Lock("handle-lid-switch")};
 }
 
 }  // namespace
@@ -33,12 +38,12 @@ void KeepAwake::Set(bool awake) {
     changed_.notify_one();
 }
 
-// The descriptor lives as long as the wish for it.
+// The locks live as long as the wish for them.
 void KeepAwake::Work(const std::stop_token& stop) {
     std::unique_lock lock(mutex_);
     while (changed_.wait(lock, stop, [this] { return wanted_; }) && !stop.stop_requested()) {
         lock.unlock();
-        const QDBusUnixFileDescriptor inhibitor = Inhibit();
+        const auto locks = Locks();
         lock.lock();
         changed_.wait(lock, stop, [this] { return !wanted_; });
     }
