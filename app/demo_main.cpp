@@ -36,7 +36,7 @@ class Demonstration {
     Demonstration(const Demonstration&) = delete;
     Demonstration& operator=(const Demonstration&) = delete;
 
-    [[noreturn]] void Run() {
+    int Run() {
         // The open-file dialog starts here.
         QDir::setCurrent(QFileInfo(QFile::decodeName(options_.file.c_str())).absolutePath());
         if (options_.walk) {
@@ -44,8 +44,7 @@ class Demonstration {
             QTimer::singleShot(0, [this] { walk_.Go(); });
         }
         program_.handlers.Main();
-        QApplication::exec();  // ends by itself only when the desktop logs out
-        program_.desktop.End();
+        return QApplication::exec();
     }
 
   private:
@@ -118,7 +117,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("keplin-demo");
     QApplication::setDesktopFileName("keplin-demo");
     try {
-        keplin::Demonstration(std::move(*options)).Run();
+        return keplin::Demonstration(std::move(*options)).Run();
     } catch (const std::exception& error) {
         std::cerr << "keplin-demo: " << error.what() << "\n";
         return 2;

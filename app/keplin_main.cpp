@@ -10,6 +10,5 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName("keplin");
     keplin::Program program(keplin::NumberedComputerPorts(), {});
     program.handlers.Main();
-    QApplication::exec();  // ends by itself only when the desktop logs out
-    program.desktop.End();
+    return QApplication::exec();
 }

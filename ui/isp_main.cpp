@@ -19,6 +19,7 @@ constexpr TextStyle kMaker{.alignment = Alignment::Centre, .bold = true, .points
 constexpr TextStyle kWarning{.colour = kWarningRed};
 constexpr TextStyle kResult{
     .background = kResultYellow, .border = true, .description = "Result of the port test"};
+constexpr TextStyle kHeadline{.description = "What to do on this page"};
 constexpr TextStyle kStage{.alignment = Alignment::Centre, .description = "Stage of the update"};
 
 }  // namespace
@@ -81,7 +82,7 @@ ISPMain::ISPMain()
       lblPrg{Label(*this, &Frame2, "lblPrg(0)",
                    "1. Verify the File Name listed at the bottom of this program window is "
                    "correct.",
-                   {120, 360, 7215, 255}),
+                   {120, 360, 7215, 255}, kHeadline),
              Label(*this, &Frame2, "lblPrg(1)",
                    "2. If OK, click the Update QDX-470 button to begin installing the new "
                    "software.",

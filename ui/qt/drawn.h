@@ -16,8 +16,8 @@ class Drawn {
     // Takes over from the model what the aspect names.
     virtual void Apply(Aspect aspect) = 0;
 
-    // Something beside the control changed: a neighbour came, went or moved.
-    virtual void NeighbourChanged() {}
+    // A neighbour came, went or moved, which may leave the control more room or less.
+    virtual void Refit() {}
 };
 
 // Takes over what every control has: visible, enabled, place. Other aspects are passed over.

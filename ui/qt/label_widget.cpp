@@ -15,28 +15,29 @@ LabelWidget::LabelWidget(const Label& label, const Look& look, QWidget* parent)
     ApplyCommon(*this, label, look.scale);
     setAccessibleDescription(label.Style.description);
     ApplyCaption();
+    Refit();
 }
 
 void LabelWidget::Apply(Aspect aspect) {
     ApplyCommon(*this, label_, look_.scale, aspect);
-    if (aspect == Aspect::Caption) {
-        ApplyCaption();
-    } else {
-        NeighbourChanged();
-    }
+    if (aspect == Aspect::Caption) ApplyCaption();
+    Refit();
+    if (aspect == Aspect::Caption || aspect == Aspect::Visible) Announce();
 }
 
-void LabelWidget::NeighbourChanged() {
+void LabelWidget::Refit() {
     setFont(FontOf(label_, look_));
 }
 
-// A text that comes and goes has a name also while it is empty, and a screen reader is told of each
-// change that the technician may be waiting for.
+// A text that comes and goes has a name also while it is empty.
 void LabelWidget::ApplyCaption() {
     setText(ToQt(label_.Caption));
     setAccessibleName(text().isEmpty() ? accessibleDescription() : text());
-    setFont(FontOf(label_, look_));
-    if (accessibleDescription().isEmpty() || !isVisible()) return;
+}
+
+// A screen reader is told of each text that the technician may be waiting for.
+void LabelWidget::Announce() {
+    if (accessibleDescription().isEmpty() || text().isEmpty() || !isVisible()) return;
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

@@ -11,13 +11,14 @@ class LabelWidget final : public QLabel, public Drawn {
   public:
     LabelWidget(const Label& label, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;
-    void NeighbourChanged() override;
+    void Refit() override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     void ApplyCaption();
+    void Announce();
     [[nodiscard]] QColor TextColour() const;
 
     const Label& label_;

@@ -40,12 +40,9 @@ MainWindow::~MainWindow() {
     model_.Observe(nullptr);
 }
 
-// Whether the window closes is the model's to decide; a desktop that logs out is not held up.
+// Whether the window closes is the model's to decide. A desktop that logs out asks the same way; it
+// is not held up, and ends the program by itself where the model does not.
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (qApp->isSavingSession()) {
-        event->accept();
-        return;
-    }
     event->ignore();
     model_.Window.RequestClose();
 }
@@ -65,7 +62,7 @@ void MainWindow::Apply(const Control& control, Aspect aspect) {
     drawn_.at(&control)->Apply(aspect);
     if (aspect != Aspect::Visible) return;
     for (const auto& [other, drawn] : drawn_) {
-        if (other->Container == control.Container) drawn->NeighbourChanged();
+        if (other->Container == control.Container) drawn->Refit();
     }
 }
 

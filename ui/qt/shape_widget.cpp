@@ -3,7 +3,7 @@
 namespace keplin::qt {
 namespace {
 
-constexpr int kPauseMs = 1000 / 60;  // between two steps sideways
+constexpr int kPauseMs = 1000 / 60 + 1;  // between two steps sideways
 
 }  // namespace
 
