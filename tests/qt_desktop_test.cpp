@@ -51,6 +51,7 @@ TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
     };
     const auto silent = fiftyYields(true);
     EXPECT_GE(silent, std::chrono::milliseconds(50));
+    EXPECT_LT(silent, std::chrono::seconds(3));
     EXPECT_LT(fiftyYields(false), silent);
     ASSERT_EQ(write(line[1], "x", 1), 1);
     EXPECT_LT(fiftyYields(true), silent);
@@ -78,8 +79,6 @@ TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
     EXPECT_EQ(QtDesktop(window, hooks).ShowOpen({"", "typed", "", false}), "typed");
     EXPECT_THROW(desktop.FileLength("/nowhere/to/be/found"), std::runtime_error);
     EXPECT_THROW(desktop.FileDateTime("/nowhere/to/be/found"), std::runtime_error);
-    EXPECT_GT(desktop.FileLength("/proc/self/exe"), 0U);
-    EXPECT_NE(desktop.FileDateTime("/proc/self/exe"), "");
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(
         QtDesktop(window, {.idleDescriptor = {}, .openFile = {}, .beforeEnd = [] { return 3; }})

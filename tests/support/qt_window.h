@@ -43,6 +43,23 @@ class QtWindow : public testing::Test {
         return window.findChild<Widget*>(QString::fromStdString(control.Name));
     }
 
+    // Some pixel of the control as the window shows it, or of its uppermost rows, is of this colour
+    // or nearly.
+    bool IsPainted(const Control& control, const QColor& colour, int rows = 1000) {
+        const QWidget* widget = Find(control);
+        const QSize part(widget->width(), std::min(rows, widget->height()));
+        const QImage image = window.grab({widget->mapTo(&window, QPoint()), part}).toImage();
+        const auto isNear = [&](QRgb pixel) {
+            return std::abs(qRed(pixel) - colour.red()) + std::abs(qGreen(pixel) - colour.green()) +
+                       std::abs(qBlue(pixel) - colour.blue()) <
+                   60;
+        };
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            if (isNear(image.pixel(i % image.width(), i / image.width()))) return true;
+        }
+        return false;
+    }
+
     std::string Focused() {
         const QWidget* focused = window.focusWidget();
         return focused == nullptr || focused == &window ? "" : focused->objectName().toStdString();

@@ -1,4 +1,5 @@
-// Which texts of a window are not whole, told from what its widgets would paint.
+// Which texts of a window are not whole: each is drawn anew with its widget's font, by Qt's own
+// means, and the ink compared with the room that the widget has.
 #pragma once
 
 #include <QImage>
