@@ -50,12 +50,12 @@ std::vector<const Button*> FocusKeeper::Pressable() const {
     return buttons;
 }
 
-int FocusKeeper::Rank(const Button& button) const {
-    if (button.Container == nullptr) return 3;
-    if (pressed_ == nullptr) return 2;
-    if (&button == pressed_) return 1;
-    return std::find(beforePress_.begin(), beforePress_.end(), &button) == beforePress_.end() ? 0
-                                                                                              : 2;
+FocusKeeper::Rank FocusKeeper::RankOf(const Button& button) const {
+    if (button.Container == nullptr) return Rank::BesideThePages;
+    if (pressed_ == nullptr) return Rank::OnThePage;
+    if (&button == pressed_) return Rank::PressedAgain;
+    const auto before = std::find(beforePress_.begin(), beforePress_.end(), &button);
+    return before == beforePress_.end() ? Rank::PressableOnlySince : Rank::OnThePage;
 }
 
 const FocusKeeper::Entry* FocusKeeper::Best() const {
@@ -66,7 +66,7 @@ const FocusKeeper::Entry* FocusKeeper::Best() const {
     for (std::size_t i = 0; i < entries_.size(); ++i) {
         const Entry& entry = entries_[(start + i) % entries_.size()];
         if (!entry.button->CanBePressed()) continue;
-        if (best == nullptr || Rank(*entry.button) < Rank(*best->button)) best = &entry;
+        if (best == nullptr || RankOf(*entry.button) < RankOf(*best->button)) best = &entry;
     }
     return best;
 }

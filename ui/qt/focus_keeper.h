@@ -37,8 +37,9 @@ class FocusKeeper {
 
     [[nodiscard]] const Entry* Focused() const;
     [[nodiscard]] std::vector<const Button*> Pressable() const;
-    // How much better another button would be; 0 is the best.
-    [[nodiscard]] int Rank(const Button& button) const;
+    // Which button the focus goes to, the best first.
+    enum class Rank { PressableOnlySince, PressedAgain, OnThePage, BesideThePages };
+    [[nodiscard]] Rank RankOf(const Button& button) const;
     [[nodiscard]] const Entry* Best() const;
     void Settle();
 

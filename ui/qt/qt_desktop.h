@@ -14,8 +14,8 @@ class QtDesktop : public Desktop {
   public:
     // What the program around it may want otherwise. An empty function changes nothing.
     struct Hooks {
-        // The open line on which a byte is awaited, or -1 when a yield is not to wait. Asked at
-        // each yield, and only one of those between two reads should wait.
+        // The open line on which a byte is awaited, or -1 when this yield is not to wait. Asked at
+        // each yield; having named the line once, it gives -1 until the line was read again.
         std::function<int()> idleDescriptor;
         // Answers in place of the open-file dialog.
         std::function<std::optional<std::string>(const OpenFileRequest&)> openFile;
