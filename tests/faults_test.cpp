@@ -96,6 +96,7 @@ TEST_P(EveryFault, AtEveryExchangeStopsTheRunWhereItStandsAndASecondRunCompletes
 
         ++stops;
         EXPECT_EQ(PageOf(window), ExpectedStop(k));
+        EXPECT_EQ(faulty.rig.port.Sent.size(), static_cast<std::size_t>(before + k));
         faulty.device.ClearFaults();
         faulty.rig.desktop.Clock += std::chrono::seconds(1);
         faulty.Update();
@@ -112,18 +113,6 @@ INSTANTIATE_TEST_SUITE_P(Simulator, EveryFault,
                              std::erase(name, '-');
                              return name;
                          });
-
-TEST(Faults, AFailedEraseLeavesTheLaterBlocksAlone) {
-    const TemporaryFile file(kSmallFile);
-    FaultyRig faulty;
-    faulty.rig.ReachProgramPage(file.Path());
-    const Flash old;
-    faulty.device.Inject({FaultKind::Refused, faulty.device.ExchangesSeen() + 6, false});
-    faulty.Update();
-    EXPECT_EQ(faulty.rig.port.Sent.back(), ":020000030120DA");
-    EXPECT_EQ(faulty.loader.Memory().Cells()[0x2000], old.Cells()[0x2000]);
-    EXPECT_EQ(faulty.loader.Memory().Cells()[0x0000], Flash::kErased);
-}
 
 // The cable is pulled, and plugged in again before the next try.
 TEST(Faults, ALostLineEndsTheExchangeAtOnceAndIsFoundAgainByThePing) {

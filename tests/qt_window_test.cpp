@@ -37,12 +37,6 @@ TEST_F(QtWindow, EveryControlStandsInItsPlace) {
     EXPECT_EQ(checked, 33);
 }
 
-TEST(Scale, NeighboursMeetAtEveryScale) {
-    const qt::Scale scale(144);
-    EXPECT_EQ(scale.Pixels(Place{0, 0, 15, 255}), QRect(0, 0, 2, 26));
-    EXPECT_EQ(scale.Pixels(Place{15, 255, 15, 255}), QRect(2, 26, 1, 25));
-}
-
 TEST_F(QtWindow, FollowsTheModel) {
     model.Shape2.Left = 5160;
     model.Command1.Caption = "Fish & Chips";

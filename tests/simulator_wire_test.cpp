@@ -48,20 +48,5 @@ TEST(SimulatedWire, EachByteTakesItsTimeInBothDirections) {
     EXPECT_EQ(kByteTime, 260417ns);
 }
 
-TEST(SimulatedWire, APauseComesBeforeItsByteAndDiscardLeavesWhatIsUnderWay) {
-    struct Pausing final : DeviceEnd {
-        void Receive(std::uint8_t byte, std::vector<SentByte>& answer) override {
-            answer = {{byte, 0us}, {'a', 700us}, {'b', 0us}};
-        }
-    } device;
-    Wire wire(device);
-    HostSends(wire, "x", 0ns);
-    wire.DropArrived(2 * kByteTime);
-    const auto arrivals = Arrivals(wire);
-    const std::vector<std::pair<char, Time>> expected{{'a', 3 * kByteTime + 700us},
-                                                      {'b', 4 * kByteTime + 700us}};
-    EXPECT_EQ(arrivals, expected);
-}
-
 }  // namespace
 }  // namespace keplin::simulator
