@@ -32,6 +32,7 @@ class TimedPort : public SerialPort {
     void WriteByte(std::uint8_t byte) override { port_.WriteByte(byte); }
     void DiscardInput() override { port_.DiscardInput(); }
     [[nodiscard]] bool LineLost() const override { return port_.LineLost(); }
+    void ReopenLostLine() override { port_.ReopenLostLine(); }
 
     void WriteText(std::string_view text) override {
         exchanges_.push_back({.writing = Now()});

@@ -54,6 +54,10 @@ class ReplyLine {
 
 }  // namespace
 
+void DeviceExchange::ReopenLostLine() {
+    PassOver([&] { Port1.ReopenLostLine(); });
+}
+
 bool DeviceExchange::PingDevice() {
     DiscardReceived();
     PassOver([&] { Port1.WriteByte(kPing); });

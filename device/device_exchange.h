@@ -24,6 +24,10 @@ class DeviceExchange {
   public:
     DeviceExchange(SerialPort& port, Desktop& desktop) : Port1(port), desktop_(desktop) {}
 
+    // Finds an adapter again that was unplugged and is back. Only before an update begins: a
+    // controller that comes into the midst of one has not been erased by it.
+    void ReopenLostLine();
+
     // True when the controller sends back the ping byte within 50 ms, ahead of any other byte.
     bool PingDevice();
 

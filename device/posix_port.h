@@ -33,7 +33,7 @@ class PosixPort : public SerialPort {
 
     // 1 when the port is open now, 0 when it is not: no such device, not a serial line, held by
     // another program, no permission, settings that the device does not take. Closes the port that
-    // was open before. Never waits.
+    // was open before. Does not wait for a carrier.
     std::int32_t Open() override;
     // Always 0. Drops what was written and has not left yet.
     std::int32_t Close() override;
@@ -41,7 +41,6 @@ class PosixPort : public SerialPort {
     std::int32_t ReadByte() override;
     // Both end within 500 ms. They throw PortError when the port is closed, the line is lost or the
     // device does not take the bytes in that time; what it did not send by then is dropped.
-    // WriteByte first tries to open a lost line again, with the settings it had.
     void WriteByte(std::uint8_t byte) override;
     void WriteText(std::string_view text) override;
     // Does nothing on a closed port.
@@ -50,6 +49,8 @@ class PosixPort : public SerialPort {
     // Noticed by a read, a write or a discard. Ends with the next successful opening, or with
     // Close.
     [[nodiscard]] bool LineLost() const override { return lost_; }
+    // Notices by itself that the line is gone. Drops what was received, as a discard does.
+    void ReopenLostLine() override;
 
     // The descriptor to wait on for the next byte (POLLIN) while the line is idle: nothing was read
     // since the last opening, discard or write, or the last read found nothing. -1 when there is

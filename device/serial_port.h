@@ -1,5 +1,5 @@
 // The serial port control: ten members, each with the numeric identifier that the control knows it
-// by, and one question beside them.
+// by, and two beside them for a line that is lost.
 #pragma once
 
 #include <cstdint>
@@ -40,9 +40,11 @@ class SerialPort {
     // 57: sends the characters of a text, one byte each, in order, adding nothing.
     virtual void WriteText(std::string_view text) = 0;
 
-    // The line is gone (an unplugged adapter, a far end that hung up): until a byte is written
-    // again no byte can ever come.
+    // The line is gone (an unplugged adapter, a far end that hung up): no byte can ever come.
     [[nodiscard]] virtual bool LineLost() const = 0;
+    // Opens a line that is gone again: the same device with the settings it had. What hangs on it
+    // then need not be what hung on it before, so this is not for the midst of an update.
+    virtual void ReopenLostLine() = 0;
 };
 
 }  // namespace keplin

@@ -35,7 +35,7 @@ struct Injection {
 //
 // A hang-up strikes at the exchange's first byte. From a fault in one exchange the device is back
 // as soon as the line has closed, and takes part in the next line; from a fault "onwards" it is
-// back after PlugIn or ClearFaults.
+// back after ClearFaults.
 class FaultyDevice final : public DeviceEnd {
   public:
     static constexpr std::size_t kBabbleBytes = 8192;  // 2.1 s on the wire
@@ -47,8 +47,8 @@ class FaultyDevice final : public DeviceEnd {
     void Inject(FaultAt fault) { faults_.push_back(fault); }
     // No fault from the next exchange on. Babble and hang-up end at once.
     void ClearFaults();
-    // Ends a hang-up; its fault, if "onwards", strikes again at the next exchange.
-    void PlugIn() { hungUp_ = false; }
+    // Hangs up now, whatever is under way, and is back as soon as the line has closed.
+    void HangUp() { hungUp_ = comesBack_ = true; }
 
     [[nodiscard]] int ExchangesSeen() const { return exchanges_; }
     // One for each exchange that a fault struck, in order. An injection's texts are there when its

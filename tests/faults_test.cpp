@@ -115,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(Simulator, EveryFault,
                          });
 
 // The cable is pulled, and plugged in again before the next try.
-TEST(Faults, ALostLineEndsTheExchangeAtOnceAndIsFoundAgainByThePing) {
+TEST(Faults, ALostLineEndsTheExchangeAtOnceAndIsFoundAgainByTheNextRun) {
     const TemporaryFile file(kSmallFile);
     FaultyRig faulty;
     faulty.rig.ReachProgramPage(file.Path());

@@ -220,28 +220,35 @@ TEST_F(SerialAdapter, NoticesAHangUpInEachStepOfAnExchange) {
     EXPECT_FALSE(port_.LineLost());
 }
 
-TEST_F(SerialAdapter, APingOpensALostLineAgainWhenItIsBack) {
+TEST_F(SerialAdapter, ALostLineIsOpenedAgainOnlyWhenAskedTo) {
     ASSERT_GT(OpenPort(port_, 2), 0);
     far_->HangUp();
     EXPECT_EQ(port_.ReadByte(), -1);
     port_.PortNumber(4);
     port_.LineSpeed(9600);
-    EXPECT_THROW(port_.WriteByte(kPing), PortError) << "still unplugged";
-    EXPECT_TRUE(port_.LineLost());
+    port_.ReopenLostLine();
+    EXPECT_TRUE(port_.LineLost()) << "still unplugged";
 
     Plug(far_.emplace());
     port_.DiscardInput();
     EXPECT_EQ(port_.ReadByte(), -1);
-    EXPECT_THROW(port_.WriteText(":"), PortError) << "a record must not go to a new line";
+    EXPECT_THROW(port_.WriteText(":"), PortError) << "nothing must go to a new line by itself";
+    EXPECT_THROW(port_.WriteByte(kPing), PortError);
     EXPECT_TRUE(port_.LineLost());
 
-    port_.WriteByte(kPing);
+    port_.ReopenLostLine();
     EXPECT_FALSE(port_.LineLost());
+    port_.WriteByte(kPing);
     EXPECT_EQ(far_->Receive(1), "U");
     const termios settings = far_->Settings();
     EXPECT_EQ(cfgetospeed(&settings), speed_t{B38400}) << "not as it was open before";
     far_->Send("U");
     EXPECT_EQ(Read(1), "U");
+
+    far_->HangUp();
+    Plug(far_.emplace());
+    port_.ReopenLostLine();
+    EXPECT_NO_THROW(port_.WriteByte(kPing)) << "a loss that nobody has noticed yet";
 }
 
 }  // namespace

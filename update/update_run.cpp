@@ -36,6 +36,7 @@ void UpdateRun::Run() {
 }
 
 bool UpdateRun::EraseAndProgram() {
+    controller_.ReopenLostLine();
     if (!ReachLoader()) return false;
     StartActivity(window_);
     if (!EraseDevice(window_, controller_, desktop_)) return false;

@@ -1,5 +1,6 @@
 #include "tests/campaign/campaign.h"
 
+#include <algorithm>
 #include <array>
 #include <random>
 
@@ -70,7 +71,9 @@ class RandomTechnician {
         rig_.port.Settle();
         sentBefore_ = rig_.port.Sent.size();
         obeyedBefore_ = loader_.ObeyedRecords().size();
+        swapAt_ = OneIn(8) ? rig_.desktop.Yields + Below(400) : -1;
         rig_.window.Command1.Press();
+        swapAt_ = -1;
         Demand(rig_.window.cmdExit.CanBePressed(), "Close cannot be pressed after a run");
         Demand(!rig_.window.Shape1.Visible && !rig_.window.Shape2.Visible &&
                    !rig_.window.Timer1.Enabled,
@@ -87,21 +90,28 @@ class RandomTechnician {
 
     // The completion page says that the controller holds the file.
     void DemandEveryLineObeyed() {
-        std::vector<std::string> wanted{":010000020CF1",   ":010000020CF1",   ":020000030100FA",
-                                        ":020000030120DA", ":020000030140BA", ":010000020CF1"};
-        for (const std::string& line : lines_) {
-            if (line.empty()) break;
-            wanted.push_back(line);
-        }
-        const auto& obeyed = loader_.ObeyedRecords();
-        const auto since = obeyed.begin() + static_cast<std::ptrdiff_t>(obeyedBefore_);
-        Demand(std::vector<std::string>(since, obeyed.end()) == wanted,
+        Demand(EveryLineObeyed(),
                "complete, but the controller did not obey every line once and in order");
         std::vector<std::string> sent(
             rig_.port.Sent.begin() + static_cast<std::ptrdiff_t>(sentBefore_),
             rig_.port.Sent.end());
         std::erase(sent, "U");
-        Demand(sent == wanted, "complete, but not every line was sent once and in order");
+        Demand(sent == WholeUpdate(), "complete, but not every line was sent once and in order");
+    }
+
+    bool EveryLineObeyed() {
+        const auto& obeyed = loader_.ObeyedRecords();
+        const auto since = obeyed.begin() + static_cast<std::ptrdiff_t>(obeyedBefore_);
+        return std::vector<std::string>(since, obeyed.end()) == WholeUpdate();
+    }
+
+    // Every record of an update, in order.
+    std::vector<std::string> WholeUpdate() {
+        std::vector<std::string> records{":010000020CF1",   ":010000020CF1",   ":020000030100FA",
+                                         ":020000030120DA", ":020000030140BA", ":010000020CF1"};
+        const auto end = std::find(lines_.begin(), lines_.end(), "");
+        records.insert(records.end(), lines_.begin(), end);
+        return records;
     }
 
     void InjectFaults(int within) {
@@ -161,7 +171,17 @@ class RandomTechnician {
         return record;
     }
 
+    // The adapter is unplugged, and a controller that has not been erased hangs on it when it is
+    // back, under the same name.
+    void SwapController() {
+        if (EveryLineObeyed()) return;
+        device_.HangUp();
+        loader_ = Loader();
+        obeyedBefore_ = 0;
+    }
+
     void DuringYield() {
+        if (rig_.desktop.Yields == swapAt_) SwapController();
         if (rig_.desktop.Yields > kYieldLimit) throw DoesNotEnd{};
         Demand(!rig_.desktop.AwakeTwice, "two runs at a time");
         if (clickEvery_ == 0 || !OneIn(static_cast<unsigned>(clickEvery_))) return;
@@ -186,6 +206,7 @@ class RandomTechnician {
     std::vector<std::string> lines_;
     std::size_t sentBefore_ = 0;
     std::size_t obeyedBefore_ = 0;
+    long swapAt_ = -1;    // the yield at which another controller takes this one's place; -1: none
     int clickEvery_ = 0;  // yields, on average; 0: never
     std::optional<std::string> wrong_;
 };

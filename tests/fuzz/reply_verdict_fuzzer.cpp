@@ -26,6 +26,7 @@ class FixedReply : public keplin::SerialPort {
     void DiscardInput() override {}
     void WriteText(std::string_view) override {}
     [[nodiscard]] bool LineLost() const override { return false; }
+    void ReopenLostLine() override {}
 
   private:
     const std::string_view reply_;

@@ -43,6 +43,7 @@ class ScriptedPort : public SerialPort {
     void DiscardInput() override { Play("DiscardInput"); }
     void WriteText(std::string_view text) override { Play("WriteText " + std::string(text)); }
     [[nodiscard]] bool LineLost() const override { return Lost; }
+    void ReopenLostLine() override { Play("ReopenLostLine"); }
 
     bool Lost = false;
 

@@ -48,15 +48,18 @@ class VirtualPort : public SerialPort {
         desktop_.MayWait = !byte;
         return byte ? *byte : -1;
     }
-    void WriteByte(std::uint8_t byte) override {
-        if (Connected() && LineLost()) lost_ = !wire_.PlugIn();
-        Send(std::string(1, static_cast<char>(byte)));
-    }
+    void WriteByte(std::uint8_t byte) override { Send(std::string(1, static_cast<char>(byte))); }
     void DiscardInput() override {
-        if (Connected()) wire_.DropArrived(desktop_.Clock);
+        if (!Connected()) return;
+        wire_.DropArrived(desktop_.Clock);
+        lost_ = wire_.HungUp();
     }
     void WriteText(std::string_view text) override { Send(std::string(text)); }
     [[nodiscard]] bool LineLost() const override { return lost_; }
+    void ReopenLostLine() override {
+        DiscardInput();
+        if (lost_) lost_ = !wire_.PlugIn();
+    }
 
     // Lets what is still on the wire arrive, as far as it is due.
     void Settle() { wire_.Advance(desktop_.Clock); }
