@@ -19,10 +19,6 @@ void Once(bool& underWay, Work&& work) {
     underWay = false;
 }
 
-void Win95Shrivel(Form& xForm) {
-    xForm.WindowState = Form::State::Minimised;
-}
-
 }  // namespace
 
 Handlers::Handlers(ISPMain& window, SerialPort& port, Desktop& desktop)
@@ -38,7 +34,7 @@ Handlers::Handlers(ISPMain& window, SerialPort& port, Desktop& desktop)
     window.Command1.OnClick = On(&Handlers::Command1_Click);
     window.cmdExit.OnClick = On(&Handlers::cmdExit_Click);
     window.Timer1.OnTimer = On(&Handlers::Timer1_Tick);
-    window.Window.OnCloseRequest = On(&Handlers::Form_Close);
+    window.Window.OnCloseRequest = On(&Handlers::Form_CloseRequest);
 }
 
 Handlers::~Handlers() {
@@ -115,7 +111,7 @@ void Handlers::Timer1_Tick() {
 
 // The title bar's close control does what Close does, and nothing while Close cannot be pressed:
 // a search or an update is under way.
-void Handlers::Form_Close() {
+void Handlers::Form_CloseRequest() {
     if (window_.cmdExit.CanBePressed()) Form_Unload();
 }
 

@@ -32,7 +32,7 @@ class Handlers {
     void Command1_Click();
     void cmdExit_Click();
     void Timer1_Tick();
-    void Form_Close();
+    void Form_CloseRequest();
     void Form_Unload();
 
     // A handler as the window calls it: passed over once the window is closing.

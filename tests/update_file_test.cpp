@@ -73,7 +73,8 @@ TEST_F(UpdateFileTest, LinesEndAtACarriageReturnAndNowhereElse) {
         {"a\r\n\nb", {"a", "\nb"}},
         {"\r\r\n\r", {"", "", ""}},
         {std::string("\0\x80\xFF\r\n:", 6), {std::string("\0\x80\xFF", 3), ":"}},
-        {Repeat("x", 65535) + "\r\ny\r", {Repeat("x", 65535), "y"}},  // the end of a block
+        {Repeat("x", 65535) + "\r\ny\r", {Repeat("x", 65535), "y"}},  // a block ends behind the CR
+        {Repeat("x", 65534) + "\r\ny\r", {Repeat("x", 65534), "y"}},  // and here behind the LF
     };
     for (const auto& [contents, lines] : cases) {
         file.HexLines.assign(UpdateFile::kSlots, "");

@@ -116,6 +116,10 @@ ISPMain::ISPMain()
     addPanel(StatusBar2, "StatusBar2.Panels(3)", "Checksum", 1440, Alignment::Centre, Share);
 }
 
+void Win95Shrivel(Form& xForm) {
+    xForm.WindowState = Form::State::Minimised;
+}
+
 void ShowPage(Page& page) {
     page.Left = kShownPageLeft;
     page.Top = kShownPageTop;

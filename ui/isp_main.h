@@ -65,6 +65,9 @@ class ISPMain : public ControlList {
     bool MovingLeft = false;
 };
 
+// Minimises the window.
+void Win95Shrivel(Form& xForm);
+
 // Moves a page to the place of the shown page and shows it.
 void ShowPage(Page& page);
 

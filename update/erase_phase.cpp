@@ -2,9 +2,8 @@
 
 namespace keplin {
 
-using namespace std::chrono_literals;
-
 bool EraseDevice(ISPMain& window, DeviceExchange& controller, Desktop& desktop) {
+    using namespace std::chrono_literals;
     Label& lblPrgm = window.lblPrgm;
     ProgressBar& ProgressBar1 = window.ProgressBar1;
 

@@ -4,6 +4,12 @@
 #include <stdexcept>
 
 namespace keplin {
+namespace {
+
+// In bytes, far beyond any update file: a disk image taken for one would fill the memory.
+constexpr std::size_t kLongestLine = 64 << 20;
+
+}  // namespace
 
 bool LineReader::AtEnd() {
     ReadBlockIfEmpty();
@@ -21,6 +27,7 @@ std::string LineReader::ReadLine() {
         const std::size_t length = std::min(unread_.find('\r'), unread_.size());
         line.append(unread_, 0, length);
         unread_.remove_prefix(length);
+        if (line.size() > kLongestLine) throw std::runtime_error("no text file");
         if (!unread_.empty()) {
             unread_.remove_prefix(1);
             afterReturn_ = true;

@@ -18,7 +18,8 @@ class LineReader {
     // Whether every line has been read. Throws std::runtime_error when the file cannot be read.
     bool AtEnd();
 
-    // The next line without its end. Only while not AtEnd. Throws as above.
+    // The next line without its end. Only while not AtEnd. Throws as above, and for a line of more
+    // than 64 MiB, which no text file has.
     std::string ReadLine();
 
   private:

@@ -44,9 +44,8 @@ std::int16_t LineDataSum(std::string_view line) {
 }
 
 std::int16_t HexByteValue(std::string_view text) {
-    const std::int32_t high = text.empty() ? 0 : DigitValue(text[0]);
-    const std::int32_t low = text.size() < 2 ? 0 : DigitValue(text[1]);
-    return static_cast<std::int16_t>(16 * high + low);
+    return static_cast<std::int16_t>(16 * HexDigitValue(Mid(text, 1, 1)) +
+                                     HexDigitValue(Mid(text, 2, 1)));
 }
 
 std::int16_t HexDigitValue(std::string_view text) {

@@ -40,7 +40,7 @@ bool UpdateFile::LoadUpdateFile() {
         LineCount = contents.lines;
         file_.close();
         return true;
-    } catch (const std::exception&) {  // the page that does not come tells the technician
+    } catch (const std::exception&) {  // no message: the programming page stays away
         return false;
     }
 }
