@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "device/serial_port.h"
-#include "device/unique_fd.h"
+#include "platform/unique_fd.h"
 
 namespace keplin {
 

@@ -43,23 +43,23 @@ timespec ToTimespec(Time duration) {
 }
 
 // A line discipline would echo and reshape bytes until the host has set the line up.
-void MakeRaw(const Descriptor& terminal) {
+void MakeRaw(const UniqueFd& terminal) {
     termios settings{};
     Checked(::tcgetattr(terminal.Get(), &settings), "tcgetattr");
     ::cfmakeraw(&settings);
     Checked(::tcsetattr(terminal.Get(), TCSANOW, &settings), "tcsetattr");
 }
 
-Descriptor OpenMaster() {
+UniqueFd OpenMaster() {
     constexpr int kFlags = O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC;
-    Descriptor master(Checked(::posix_openpt(kFlags), "posix_openpt"));
+    UniqueFd master(Checked(::posix_openpt(kFlags), "posix_openpt"));
     Checked(::grantpt(master.Get()), "grantpt");
     Checked(::unlockpt(master.Get()), "unlockpt");
     MakeRaw(master);
     return master;
 }
 
-std::string HostEnd(const Descriptor& master) {
+std::string HostEnd(const UniqueFd& master) {
     std::array<char, 128> name{};
     const int error = ::ptsname_r(master.Get(), name.data(), name.size());
     if (error != 0) throw std::system_error(error, std::generic_category(), "ptsname");
@@ -83,14 +83,14 @@ PseudoTerminalLine::PseudoTerminalLine(DeviceEnd& device)
     : wire_(device), devicePath_(folder_.Path() / "port") {
     std::array<int, 2> ends{};
     Checked(::pipe2(ends.data(), O_CLOEXEC), "pipe2");
-    wakeReader_ = Descriptor(ends[0]);
-    wakeWriter_ = Descriptor(ends[1]);
+    wakeReader_ = UniqueFd(ends[0]);
+    wakeWriter_ = UniqueFd(ends[1]);
     PlugIn();
     thread_ = std::thread([this] { Run(); });
 }
 
 PseudoTerminalLine::~PseudoTerminalLine() {
-    wakeWriter_.Close();
+    wakeWriter_.Reset();
     thread_.join();
 }
 
@@ -130,7 +130,7 @@ void PseudoTerminalLine::PlugIn() {
 void PseudoTerminalLine::Unplug() {
     std::error_code ignored;
     std::filesystem::remove(devicePath_, ignored);
-    master_.Close();
+    master_.Reset();
 }
 
 void PseudoTerminalLine::ReadHost(Time now) {

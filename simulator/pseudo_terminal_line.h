@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "simulator/descriptor.h"
+#include "platform/unique_fd.h"
 #include "simulator/device_end.h"
 #include "simulator/wire.h"
 
@@ -72,10 +72,10 @@ class PseudoTerminalLine {
     Wire wire_;
     PrivateFolder folder_;
     const std::filesystem::path devicePath_;
-    Descriptor master_;
+    UniqueFd master_;
     bool hostThere_ = true;  // has the device file open, as far as is known
-    Descriptor wakeReader_;
-    Descriptor wakeWriter_;  // closed to end the thread
+    UniqueFd wakeReader_;
+    UniqueFd wakeWriter_;  // closed to end the thread
     std::vector<std::uint8_t> toHost_;
     std::thread thread_;
 };

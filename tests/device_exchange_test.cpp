@@ -75,7 +75,7 @@ TEST_F(DeviceExchangeTest, SilenceEndsTheExchangeAfterThirtySecondsFromTheLastBy
     desktop.OnYield = [&] {
         const bool late = !sent && desktop.Now() - second >= 29s;
         sent = sent || late;
-        port.Expect("ReadByte", late ? ':' : -1);
+        port.Expect("ReadByte", late ? 0xFF : -1);
     };
     EXPECT_FALSE(controller.SendDataLine(":00"));
     EXPECT_GE(desktop.Now() - second, 59s);

@@ -80,8 +80,10 @@ TEST_P(EveryFault, AtEveryExchangeStopsTheRunWhereItStandsAndASecondRunCompletes
     for (int k = 1; k <= exchanges; ++k) {
         SCOPED_TRACE("exchange " + std::to_string(k));
         FaultyRig faulty;
-        const ISPMain& window = faulty.rig.window;
+        ISPMain& window = faulty.rig.window;
         faulty.rig.ReachProgramPage(file.Path());
+        window.ProgressBar1.Max = 7;
+        window.ProgressBar1.Value = 7;
         faulty.device.Inject({GetParam().kind, before + k, false});
         faulty.Update();
 
@@ -96,6 +98,8 @@ TEST_P(EveryFault, AtEveryExchangeStopsTheRunWhereItStandsAndASecondRunCompletes
 
         ++stops;
         EXPECT_EQ(PageOf(window), ExpectedStop(k));
+        EXPECT_EQ(window.ProgressBar1.Max, k < 4 ? 7 : k < 8 ? 100 : 4);
+        EXPECT_EQ(k == 4 ? window.ProgressBar1.Value.Get() : 0, 0);
         EXPECT_EQ(faulty.rig.port.Sent.size(), static_cast<std::size_t>(before + k));
         faulty.device.ClearFaults();
         faulty.rig.desktop.Clock += std::chrono::seconds(1);

@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <string>
 
-#include "simulator/descriptor.h"
+#include "platform/unique_fd.h"
 #include "simulator/faulty_device.h"
 #include "simulator/loader.h"
 
@@ -22,9 +22,9 @@ constexpr int kPatience = 10'000;  // milliseconds
 
 const std::string kRecord = ":010000020CF1";
 
-Descriptor OpenWhenThere(const std::string& path) {
+UniqueFd OpenWhenThere(const std::string& path) {
     for (int waited = 0; waited < kPatience; ++waited) {
-        Descriptor host(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
+        UniqueFd host(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
         if (host) return host;
         ::poll(nullptr, 0, 1);
     }
@@ -32,7 +32,7 @@ Descriptor OpenWhenThere(const std::string& path) {
 }
 
 // What the host reads: `count` bytes, or fewer when the line hangs up.
-std::string ReadAll(const Descriptor& host, std::size_t count) {
+std::string ReadAll(const UniqueFd& host, std::size_t count) {
     std::string text;
     while (text.size() < count) {
         pollfd ready{host.Get(), POLLIN, 0};
@@ -43,7 +43,7 @@ std::string ReadAll(const Descriptor& host, std::size_t count) {
     return text;
 }
 
-void Write(const Descriptor& host, const std::string& text) {
+void Write(const UniqueFd& host, const std::string& text) {
     EXPECT_EQ(::write(host.Get(), text.data(), text.size()), std::ssize(text));
 }
 
@@ -53,7 +53,7 @@ TEST(PseudoTerminalLine, IsRawAndAnswers) {
     {
         PseudoTerminalLine line(loader);
         path = line.DevicePath();
-        const Descriptor host = OpenWhenThere(path);
+        const UniqueFd host = OpenWhenThere(path);
         termios settings{};
         ASSERT_EQ(::tcgetattr(host.Get(), &settings), 0);
         EXPECT_EQ(settings.c_lflag & (ECHO | ICANON | ISIG), 0u);
@@ -68,7 +68,7 @@ TEST(PseudoTerminalLine, AnswersASecondHostAfterTheFirst) {
     Loader loader;
     PseudoTerminalLine line(loader);
     for (int i = 0; i < 3; ++i) {
-        const Descriptor host = OpenWhenThere(line.DevicePath());
+        const UniqueFd host = OpenWhenThere(line.DevicePath());
         Write(host, "U");
         EXPECT_EQ(ReadAll(host, 1), "U");
     }
@@ -79,7 +79,7 @@ TEST(PseudoTerminalLine, HangsUpAndComesBack) {
     FaultyDevice device(loader, 1);
     device.Inject({FaultKind::HangUp, 2, true});
     PseudoTerminalLine line(device);
-    const Descriptor host = OpenWhenThere(line.DevicePath());
+    const UniqueFd host = OpenWhenThere(line.DevicePath());
     Write(host, "U");
     EXPECT_EQ(ReadAll(host, 1), "U");
     Write(host, "U");
@@ -90,7 +90,7 @@ TEST(PseudoTerminalLine, HangsUpAndComesBack) {
     EXPECT_FALSE(std::filesystem::exists(line.DevicePath()));
 
     line.WithDevice([&] { device.ClearFaults(); });
-    const Descriptor again = OpenWhenThere(line.DevicePath());
+    const UniqueFd again = OpenWhenThere(line.DevicePath());
     Write(again, "U");
     EXPECT_EQ(ReadAll(again, 1), "U");
 }

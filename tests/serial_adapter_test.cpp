@@ -96,6 +96,7 @@ TEST_F(SerialAdapter, PassesEveryByteUnchangedBothWays) {
     EXPECT_EQ(cfgetospeed(&settings), speed_t{B38400});
     EXPECT_EQ(settings.c_iflag & (IXON | IXOFF | IXANY | INPCK), 0U);
     EXPECT_EQ(settings.c_cflag & (CSTOPB | PARENB | PARODD | CRTSCTS), 0U);
+    EXPECT_EQ(settings.c_cflag & (CLOCAL | CREAD), tcflag_t{CLOCAL | CREAD});
 
     far_->Send(bytes);
     EXPECT_EQ(Read(256), bytes);
@@ -169,7 +170,7 @@ TEST_F(SerialAdapter, AStuckLineEndsTheWriteAndTheNextPingLeaves) {
     ASSERT_GT(OpenPort(port_, 2), 0);
     const auto start = std::chrono::steady_clock::now();
     EXPECT_THROW(port_.WriteText(std::string(1 << 20, ':')), PortError);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, 3s);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 2s);
     EXPECT_FALSE(port_.LineLost());
     EXPECT_NO_THROW(port_.WriteByte(kPing)) << "the rest of the text is in its way";
 }

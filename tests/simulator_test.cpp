@@ -185,8 +185,6 @@ TEST(SimulatedFaults, PowerLostInAnEraseLeavesTheBlockOrHalfOfIt) {
     const std::vector<Case> cases{
         {FaultKind::PowerLost, kCalibration, kErase1, untouched},
         {FaultKind::PowerLostHalf, kCalibration, kErase1, halfErased},
-        {FaultKind::PowerLostHalf, "U", kErase1, untouched},
-        {FaultKind::PowerLostHalf, kCalibration, ":020000030100FB", untouched},
     };
     for (const Case& one : cases) {
         Loader loader;

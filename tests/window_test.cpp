@@ -31,15 +31,20 @@ PicSetup.Visible = True
 TEST(Window, PortTestDisablesItsButtonsAndEnablesNextOnSuccess) {
     Rig rig;
     rig.window.Next_1.Press();
+    rig.trace.Take();
     rig.desktop.OnYield = [&] {
         EXPECT_FALSE(rig.window.cmdPortTest.Enabled || rig.window.cmdExit.Enabled);
         rig.window.cmdPortTest.Press();
         rig.window.Window.RequestClose();
     };
     rig.window.cmdPortTest.Press();
-    EXPECT_EQ(rig.window.lblResults.Caption.Get(), " Port 2 Ready.  Click NEXT to continue.");
-    EXPECT_TRUE(rig.window.Next_2.Enabled && rig.window.cmdPortTest.Enabled);
-    EXPECT_TRUE(rig.window.cmdExit.Enabled);
+    const std::string trace = rig.trace.Take();
+    EXPECT_TRUE(trace.starts_with("cmdPortTest.Enabled = False\ncmdExit.Enabled = False\n"));
+    EXPECT_TRUE(trace.ends_with(R"(lblResults.Caption = " Port 2 Ready.  Click NEXT to continue."
+Next_2.Enabled = True
+cmdPortTest.Enabled = True
+cmdExit.Enabled = True
+)")) << trace;
 }
 
 TEST(Window, AFailedSearchSaysSoAndLeavesNextAsItWas) {
@@ -94,6 +99,7 @@ PicProgram.Visible = True
 ProgressBar1.Value = 0
 Yield
 )")) << trace;
+    EXPECT_LT(trace.find("PicSetup.Visible = False"), trace.find("ShowOpen"));
     EXPECT_FALSE(rig.window.lblPrgm.Visible);
 }
 
