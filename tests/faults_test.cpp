@@ -19,15 +19,9 @@ struct FaultyRig {
     void Update() { rig.window.Command1.Press(); }
 };
 
-// What stands on the page after a run that stopped at its k-th exchange.
-struct Stop {
-    std::string caption;  // of lblPrgm; empty: hidden
-    float value = -1;     // of ProgressBar1; -1: hidden
-    friend bool operator==(const Stop&, const Stop&) = default;
-    friend void PrintTo(const Stop& stop, std::ostream* out) {
-        *out << '"' << stop.caption << "\" " << stop.value;
-    }
-};
+// What stands on the page after a run that stopped: the caption of lblPrgm, empty when it is
+// hidden, and the value of ProgressBar1, -1 when that is.
+using Stop = std::pair<std::string, float>;
 
 Stop ExpectedStop(int exchange) {
     static const std::vector<Stop> kBeforeTheLines = {

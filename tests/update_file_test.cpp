@@ -169,10 +169,9 @@ TEST(LineReaderTest, AReadErrorIsNoEndOfTheFile) {
 }
 
 TEST(LineSum, DigitsAreUpperCaseAndMissingOnesCountNothing) {
-    EXPECT_EQ(HexByteValue("7"), 112);
-    EXPECT_EQ(HexByteValue(""), 0);
-    EXPECT_EQ(HexByteValue("FF9"), 255);
-    EXPECT_EQ(HexByteValue("g1"), 1);
+    const std::pair<const char*, int> cases[] = {{"7", 112}, {"", 0}, {"FF9", 255}, {"g1", 1}};
+    for (const auto& [text, value] : cases)
+        EXPECT_EQ(HexByteValue(text), value);
     EXPECT_EQ(HexDigitValue("F"), 15);
     for (const char* none : {"f", "G", "@", ":", "/", "", "1F"})
         EXPECT_EQ(HexDigitValue(none), 0);

@@ -139,7 +139,7 @@ class RandomTechnician {
         if (OneIn(60)) return ":00000001FF";
         if (OneIn(60)) return RandomBytes(1 + Below(40));
         if (OneIn(200)) return RandomBytes(5000);
-        return DataRecord(static_cast<std::uint16_t>(index * 256), 1 + Below(OneIn(9) ? 255 : 24));
+        return DataRecord(index * 256, 1 + Below(OneIn(9) ? 255 : 24));
     }
 
     std::string RandomBytes(unsigned length) {
@@ -152,22 +152,19 @@ class RandomTechnician {
         return text;
     }
 
-    std::string DataRecord(std::uint16_t address, unsigned count) {
-        std::vector<std::uint8_t> bytes{static_cast<std::uint8_t>(count),
-                                        static_cast<std::uint8_t>(address >> 8),
-                                        static_cast<std::uint8_t>(address & 0xFF), 0};
-        for (unsigned i = 0; i < count; ++i)
-            bytes.push_back(static_cast<std::uint8_t>(Below(256)));
-        unsigned sum = 0;
-        for (const std::uint8_t byte : bytes)
-            sum += byte;
-        const unsigned wrong = OneIn(100) ? 1 : 0;
-        bytes.push_back(static_cast<std::uint8_t>(wrong - sum));
+    std::string DataRecord(unsigned address, unsigned count) {
         std::string record = ":";
-        for (const std::uint8_t byte : bytes) {
-            record += "0123456789ABCDEF"[byte >> 4];
+        unsigned sum = 0;
+        const auto add = [&](unsigned byte) {
+            record += "0123456789ABCDEF"[byte >> 4 & 15];
             record += "0123456789ABCDEF"[byte & 15];
-        }
+            sum += byte;
+        };
+        for (const unsigned byte : {count, address >> 8 & 0xFF, address & 0xFF, 0U})
+            add(byte);
+        for (unsigned i = 0; i < count; ++i)
+            add(Below(256));
+        add((OneIn(100) ? 1 - sum : -sum) & 0xFF);  // now and then a wrong checksum
         return record;
     }
 
