@@ -61,10 +61,10 @@ bool EveryTextFits(const Look& look) {
 // Only a family whose turn comes is looked up, which takes the system a while.
 QFont ChooseFont(const Look& look) {
     Look tried = look;
-    for (double points = kLargest; points >= kSmallest; points -= kStep) {
+    for (int step = 0; kLargest - step * kStep >= kSmallest; ++step) {
         for (const QString& family : Families()) {
             if (!QFontDatabase::hasFamily(family)) continue;
-            tried.font = Font(family, points);
+            tried.font = Font(family, kLargest - step * kStep);
             if (EveryTextFits(tried)) return tried.font;
         }
     }
