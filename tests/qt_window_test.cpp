@@ -10,7 +10,6 @@
 #include <chrono>
 
 #include "tests/support/text_fit.h"
-#include "ui/program_instructions.h"
 
 namespace keplin::test {
 namespace {
@@ -52,83 +51,6 @@ TEST_F(QtWindow, FollowsTheModel) {
     EXPECT_TRUE(Find(model.cmdPortTest)->isVisible());
     model.Window.WindowState = Form::State::Minimised;
     EXPECT_TRUE(window.isMinimized());
-}
-
-TEST_F(QtWindow, EveryTextIsWholeAtEveryStage) {
-    const std::vector<std::string> none;
-    model.StatusBar1.Panels(2).Text = " Number of Lines: 10001  ";
-    model.StatusBar2.Panels(1).Text = " File Size: 5240524     Hex: 4FF68C";
-    model.StatusBar2.Panels(2).Text = " Created 12/31/2026 11:59 PM";
-    model.StatusBar2.Panels(3).Text = "Checksum: FFFFD8EF";
-    EXPECT_EQ(TextsThatDoNotFit(window), none);
-    Show(model.PicSetup);
-    const double size = Find(model.Label4)->font().pointSizeF();
-    for (const char* text :
-         {"Port 4 Active.  Ping Test Started", "Query to Port 4   Port Not Active",
-          " Port 4 Ready.  Click NEXT to continue.", " Communications Fail on All Ports"}) {
-        model.lblResults.Caption = text;
-        EXPECT_EQ(TextsThatDoNotFit(window), none) << text;
-    }
-    Show(model.PicProgram);
-    EXPECT_EQ(TextsThatDoNotFit(window), none);
-    ShowProgramInstructions(model, desktop);
-    model.lblPrgm.Visible = true;
-    model.lblPrgm.Caption = "Programming Failed at Line 10001";
-    EXPECT_EQ(TextsThatDoNotFit(window), none);
-    for (Control* hidden : std::initializer_list<Control*>{&model.Command1, &model.Label10,
-                                                           &model.ProgressBar1, &model.lblPrgm}) {
-        hidden->Visible = false;
-    }
-    model.lblPrg[0].Caption = "Congratulations programming is now complete.";
-    model.lblPrg[0].Bold = true;
-    model.lblPrg[1].Caption =
-        "Turn off power to the QDX-470 controller and disconnect the serial cable.";
-    model.lblPrg[2].Caption =
-        "Re-apply power and verify the voice announces the correct update version number.";
-    EXPECT_EQ(TextsThatDoNotFit(window), none);
-    for (const Label& label : model.lblPrg)
-        EXPECT_EQ(Find(label)->font().pointSizeF(), size);
-}
-
-TEST_F(QtWindow, ALabelThatIsTooNarrowWritesSmallerAsLongAsItMust) {
-    Show(model.PicProgram);
-    const double size = Find(model.lblPrg[0])->font().pointSizeF();
-    model.lblPrg[0].Caption = model.lblPrg[0].Caption.Get() + " Please.";
-    EXPECT_LT(Find(model.lblPrg[0])->font().pointSizeF(), size);
-    EXPECT_TRUE(TextsThatDoNotFit(window).empty());
-    model.Command1.Visible = false;
-    EXPECT_EQ(Find(model.lblPrg[0])->font().pointSizeF(), size);
-}
-
-TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
-    const QPalette light = QApplication::palette();
-    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
-    desktop.Yield();
-    model.lblResults.Caption = "Query to Port 1";
-    model.lblPrgm.Visible = true;
-    for (Page* page : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {
-        Show(*page);
-        EXPECT_TRUE(IsPainted(*page, QColor(192, 192, 255), 4)) << page->Name;
-        for (const Control* control : model.Controls()) {
-            const bool frame = dynamic_cast<const Frame*>(control) != nullptr;
-            const bool label = dynamic_cast<const Label*>(control) != nullptr;
-            const bool onPage = control->Container != nullptr && control->Shown();
-            if (!onPage || !(frame || label) || control == &model.Label10) continue;
-            EXPECT_TRUE(IsPainted(*control, Qt::black, frame ? 12 : 1000)) << control->Name;
-        }
-    }
-    EXPECT_TRUE(IsPainted(model.Label10, Qt::red));
-    EXPECT_TRUE(IsPainted(model.Label8, QApplication::palette().windowText().color()));
-    Show(model.PicSetup);
-    EXPECT_TRUE(IsPainted(model.lblResults, QColor(255, 255, 192)));
-    const auto* picture = Find<QLabel>(model.Image2);
-    const QSize sharp = (QSizeF(picture->size()) * window.devicePixelRatioF()).toSize();
-    EXPECT_EQ(picture->pixmap(Qt::ReturnByValue).size(), sharp);
-    Find(model.cmdPortTest)->setFocus();
-    const QImage focused = Find(model.cmdPortTest)->grab().toImage();
-    Find(model.cmdExit)->setFocus();
-    EXPECT_NE(Find(model.cmdPortTest)->grab().toImage(), focused);
-    QApplication::setPalette(light);
 }
 
 TEST_F(QtWindow, ClicksAndKeysPressWhatCanBePressed) {
