@@ -9,7 +9,6 @@ void Loader::Receive(std::uint8_t byte, std::vector<SentByte>& answer) {
     if (heard == Heard::Other) return;
     if (heard == Heard::Broken) return EndReply(Outcome::NoDigit, answer);
     answer.push_back({byte});
-    if (heard == Heard::Ping) ++pings_;
     if (heard == Heard::Complete) EndReply(Judge(Record(frame_.Text())), answer);
 }
 
@@ -56,11 +55,7 @@ Outcome Loader::Erase(const Record& record) {
 }
 
 void Loader::EndReply(Outcome outcome, std::vector<SentByte>& answer) {
-    if (outcome == Outcome::Obeyed) {
-        obeyed_.emplace_back(frame_.Text());
-    } else {
-        ++refused_;
-    }
+    if (outcome == Outcome::Obeyed) obeyed_.emplace_back(frame_.Text());
     for (const char character : {static_cast<char>(outcome), '\r', '\n'}) {
         answer.push_back({static_cast<std::uint8_t>(character)});
     }

@@ -31,7 +31,7 @@ class Loader final : public DeviceEnd {
   public:
     void Receive(std::uint8_t byte, std::vector<SentByte>& answer) override;
 
-    // Power lost and back: not calibrated, no record under way. Memory and counts stay.
+    // Power lost and back: not calibrated, no record under way. Memory and the obeyed records stay.
     void Restart();
 
     [[nodiscard]] bool Calibrated() const { return calibrated_; }
@@ -40,8 +40,6 @@ class Loader final : public DeviceEnd {
 
     // The records obeyed, as they came, in order.
     [[nodiscard]] const std::vector<std::string>& ObeyedRecords() const { return obeyed_; }
-    [[nodiscard]] std::size_t RecordsRefused() const { return refused_; }
-    [[nodiscard]] std::size_t PingsAnswered() const { return pings_; }
 
   private:
     Outcome Judge(const Record& record);
@@ -55,8 +53,6 @@ class Loader final : public DeviceEnd {
     RecordFrame frame_;
     bool calibrated_ = false;
     std::vector<std::string> obeyed_;
-    std::size_t refused_ = 0;
-    std::size_t pings_ = 0;
 };
 
 }  // namespace keplin::simulator

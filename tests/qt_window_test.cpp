@@ -182,7 +182,6 @@ TEST_F(QtWindow, TheProgressBarIsRepaintedNowAndThenAndAtTheEnd) {
 TEST_F(QtWindow, PanelsShareTheirBarAndShortenALongPath) {
     const auto* file = Find<QLabel>(model.StatusBar1.Panels(1));
     const auto* lines = Find<QLabel>(model.StatusBar1.Panels(2));
-    EXPECT_EQ(lines->geometry().right() + 1, 622 - 2);
     EXPECT_EQ(lines->geometry().left(), 622 - 133);
     EXPECT_EQ(Find(model.StatusBar2.Panels(2))->geometry().left(), 207);
     model.StatusBar1.Panels(1).Text = " /home/me/UPDATE.HEX";
@@ -195,7 +194,6 @@ TEST_F(QtWindow, PanelsShareTheirBarAndShortenALongPath) {
     EXPECT_EQ(model.StatusBar1.Panels(1).Text.Get(), path);
     EXPECT_TRUE(TextsThatDoNotFit(window).empty());
     model.StatusBar1.Panels(2).Text = std::string(50, 'x');
-    EXPECT_EQ(lines->toolTip(), "");
     EXPECT_LT(lines->geometry().left(), 400);
 }
 
