@@ -12,6 +12,7 @@ namespace keplin::test {
 namespace {
 
 TEST_F(QtWindow, EveryTextIsWholeAtEveryStage) {
+    EXPECT_EQ(window.width(), qRound(9330 * window.logicalDpiX() / 1440.0));
     const std::vector<std::string> none;
     model.StatusBar1.Panels(2).Text = " Number of Lines: 10001  ";
     model.StatusBar2.Panels(1).Text = " File Size: 5240524     Hex: 4FF68C";
