@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "device/pass_over.h"
 #include "ui/activity.h"
 
 namespace keplin {
@@ -9,14 +10,25 @@ namespace {
 
 constexpr float kStartHeight = 5460;  // twips, title bar and frame included
 
+// A flag that is up for as long as this exists.
+class Raised {
+  public:
+    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Raised() { flag_ = false; }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+  private:
+    bool& flag_;
+};
+
 // Work during whose yields the same event may come again: it is passed over until the first is
 // through.
 template <typename Work>
 void Once(bool& underWay, Work&& work) {
     if (underWay) return;
-    underWay = true;
+    const Raised raised(underWay);
     work();
-    underWay = false;
 }
 
 }  // namespace
@@ -48,7 +60,7 @@ Handlers::~Handlers() {
 
 std::function<void()> Handlers::On(Handler handler) {
     return [this, handler] {
-        if (!closing_) (this->*handler)();
+        if (!closing_) PassOver([&] { (this->*handler)(); });
     };
 }
 
@@ -72,7 +84,8 @@ void Handlers::cmdPortTest_Click() {
     Once(lineInUse_, [&] {
         window_.cmdPortTest.Enabled = false;
         window_.cmdExit.Enabled = false;
-        const std::int16_t port = search_.FindDevicePort();
+        std::int16_t port = kNoPort;
+        PassOver([&] { port = search_.FindDevicePort(); });
         if (port == kNoPort) {
             window_.lblResults.Caption = " Communications Fail on All Ports";
         } else {

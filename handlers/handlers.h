@@ -35,7 +35,8 @@ class Handlers {
     void Form_CloseRequest();
     void Form_Unload();
 
-    // A handler as the window calls it: passed over once the window is closing.
+    // A handler as the window calls it: passed over once the window is closing. A failure ends the
+    // handler, never the program.
     using Handler = void (Handlers::*)();
     std::function<void()> On(Handler handler);
 

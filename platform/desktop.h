@@ -46,7 +46,7 @@ class Desktop {
     virtual std::string FileDateTime(const std::string& path) = 0;
 
     // Keeps the computer from falling asleep (true) or lets it again (false). Where the desktop
-    // offers no such service nothing happens.
+    // offers no such service nothing happens. May throw std::exception when it cannot even ask.
     virtual void KeepAwake(bool awake) = 0;
 
     // Ends the program at once; no further event of the window runs. Does not return.

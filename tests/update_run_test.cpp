@@ -170,5 +170,30 @@ TEST(UpdateRun, StopsAtTheFirstLineThatIsNotAcknowledged) {
     EXPECT_FALSE(rig.desktop.Awake);
 }
 
+// Keeping awake is a favour. Anything else that fails ends the operation, and the next one can
+// begin.
+TEST(UpdateRun, NoFailureLeavesAHandler) {
+    Rig rig;
+    const TemporaryFile file(kSmallFile);
+    const auto failing = [&](const Button& button, int yield) {
+        rig.desktop.OnYield = [&, yield]() mutable {
+            if (--yield == 0) throw std::runtime_error("no memory left");
+        };
+        EXPECT_NO_THROW(button.Press());
+        rig.desktop.OnYield = nullptr;
+        EXPECT_TRUE(button.CanBePressed() && rig.window.cmdExit.CanBePressed());
+        EXPECT_FALSE(rig.window.Shape2.Visible);
+    };
+    rig.window.Next_1.Press();
+    failing(rig.window.cmdPortTest, 3);
+    rig.window.cmdPortTest.Press();
+    rig.desktop.Answer = file.Path();
+    rig.window.Next_2.Press();
+    failing(rig.window.Command1, 20);
+    rig.desktop.AwakeFails = true;
+    rig.window.Command1.Press();
+    EXPECT_TRUE(rig.Completed());
+}
+
 }  // namespace
 }  // namespace keplin::test

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "device/pass_over.h"
 #include "ui/activity.h"
 #include "update/erase_phase.h"
 
@@ -10,15 +11,20 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Keeps the computer from falling asleep for as long as this exists.
+// Keeps the computer from falling asleep for as long as this exists: a favour, whose failure is
+// passed over.
 class AwakeWhile {
   public:
-    explicit AwakeWhile(Desktop& desktop) : desktop_(desktop) { desktop_.KeepAwake(true); }
-    ~AwakeWhile() { desktop_.KeepAwake(false); }
+    explicit AwakeWhile(Desktop& desktop) : desktop_(desktop) { Keep(true); }
+    ~AwakeWhile() { Keep(false); }
     AwakeWhile(const AwakeWhile&) = delete;
     AwakeWhile& operator=(const AwakeWhile&) = delete;
 
   private:
+    void Keep(bool awake) {
+        PassOver([&] { desktop_.KeepAwake(awake); });
+    }
+
     Desktop& desktop_;
 };
 
@@ -27,7 +33,9 @@ class AwakeWhile {
 void UpdateRun::Run() {
     window_.cmdExit.Enabled = false;
     const AwakeWhile running(desktop_);
-    if (EraseAndProgram()) {
+    bool programmed = false;
+    PassOver([&] { programmed = EraseAndProgram(); });
+    if (programmed) {
         ShowUpdateComplete();
         window_.lblPrgm.Visible = false;
     }

@@ -62,6 +62,7 @@ class VirtualDesktop : public Desktop {
     std::string FileDateTime(const std::string&) override { return "11/22/26 9:41 PM"; }
 
     void KeepAwake(bool awake) override {
+        if (AwakeFails) throw std::runtime_error("no thread left");
         AwakeTwice = AwakeTwice || (awake && Awake);
         Awake = awake;
     }
@@ -85,6 +86,7 @@ class VirtualDesktop : public Desktop {
     bool AwakeTwice = false;  // it was to be kept awake while it already was
     bool MayWait = false;     // the last read gave nothing: the next yield waits for what comes
     bool FactsFail = false;
+    bool AwakeFails = false;
     std::optional<std::string> Answer;          // of the open-file dialog; none: cancelled
     std::function<void()> OnYield;              // clicks, for instance
     std::function<Microseconds()> NextArrival;  // when a yield that waits ends

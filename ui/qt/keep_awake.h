@@ -10,7 +10,8 @@ namespace keplin::qt {
 class KeepAwake {
   public:
     // From now on the computer stays awake (true) or may sleep (false). Returns at once: the
-    // service is asked on a thread of its own, since a stuck one must not hold anything up.
+    // service is asked on a thread of its own, since a stuck one must not hold anything up. Throws
+    // std::system_error where the system has no thread left.
     void Set(bool awake);
 
   private:
