@@ -6,7 +6,8 @@ namespace keplin {
 namespace {
 
 qt::QtDesktop::Hooks ForPort(qt::QtDesktop::Hooks hooks, PosixPort& port) {
-    hooks.idleDescriptor = [&port] { return port.TakeIdleDescriptor(); };
+    hooks.awaitsByte = [&port] { return port.TakeIdle(); };
+    hooks.hungUp = [&port] { port.CheckLine(); };
     // Left to the end of the process, a port with unsent bytes could hold that up for half a
     // minute.
     hooks.beforeEnd = [&port, end = std::move(hooks.beforeEnd)] {
@@ -22,6 +23,12 @@ Program::Program(DevicePaths ports, qt::QtDesktop::Hooks hooks)
     : port(std::move(ports)),
       drawing(window),
       desktop(drawing, ForPort(std::move(hooks), port)),
-      handlers(window, port, desktop) {}
+      handlers(window, port, desktop) {
+    port.OnLineChange = [this](int descriptor) { desktop.WatchLine(descriptor); };
+}
+
+Program::~Program() {
+    port.Close();  // as long as there is somebody to be told
+}
 
 }  // namespace keplin

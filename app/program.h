@@ -11,9 +11,12 @@
 namespace keplin {
 
 struct Program {
-    // Needs a QApplication. The idle descriptor among the hooks becomes that of the port, and
+    // Needs a QApplication. The hooks that have to do with the line become those of the port, and
     // the port is closed before the program ends.
     Program(DevicePaths ports, qt::QtDesktop::Hooks hooks);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
 
     ISPMain window;
     PosixPort port;

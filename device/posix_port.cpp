@@ -7,10 +7,14 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <optional>
 #include <utility>
+
+#include "device/lock_file.h"
+#include "device/prompt_close.h"
 
 namespace keplin {
 namespace {
@@ -20,6 +24,8 @@ using std::chrono::steady_clock;
 // The longest record, 521 characters, takes 136 ms at 38400 bit/s: a line that needs longer than
 // this is stuck.
 constexpr std::chrono::milliseconds kWriteBound{500};
+
+constexpr std::int32_t kLastPort = 4;
 
 struct StandardSpeed {
     std::int32_t bitsPerSecond;
@@ -105,9 +111,15 @@ bool IsPassing(int error) {
     return error == EAGAIN || error == EINTR;
 }
 
+bool IsHungUp(int line) {
+    pollfd state{.fd = line, .events = 0, .revents = 0};
+    return poll(&state, 1, 0) == 1 && (state.revents & (POLLHUP | POLLERR)) != 0;
+}
+
 }  // namespace
 
-PosixPort::PosixPort(DevicePaths devicePaths) : devicePaths_(std::move(devicePaths)) {}
+PosixPort::PosixPort(DevicePaths devicePaths, std::filesystem::path lockFolder)
+    : devicePaths_(std::move(devicePaths)), lockFolder_(std::move(lockFolder)) {}
 
 PosixPort::~PosixPort() {
     CloseLine();
@@ -117,14 +129,17 @@ std::int32_t PosixPort::Open() {
     Close();
     path_ = devicePaths_(portNumber_);
     speed_ = lineSpeed_;
+    otherPaths_ = OtherPaths();
     return OpenLine() ? 1 : 0;
 }
 
 bool PosixPort::OpenLine() {
+    if (IsLockedByProcess(path_, lockFolder_)) return false;
     line_ = OpenDevice(path_, speed_);
     if (!line_) return false;
     lost_ = false;
     idle_ = true;
+    if (OnLineChange) OnLineChange(line_.Get());
     return true;
 }
 
@@ -136,11 +151,10 @@ std::int32_t PosixPort::Close() {
 
 void PosixPort::CloseLine() noexcept {
     if (!line_) return;
-    // Closing waits for what is still to be sent, half a minute on an adapter that is stuck.
-    tcflush(line_.Get(), TCOFLUSH);
+    if (OnLineChange) OnLineChange(-1);
     // Where another program has the device open too, it would stay closed to the next opening.
     ioctl(line_.Get(), TIOCNXCL);
-    line_.Reset();
+    ClosePromptly(std::move(line_));
 }
 
 void PosixPort::LoseLine() noexcept {
@@ -149,14 +163,19 @@ void PosixPort::LoseLine() noexcept {
     lost_ = true;
 }
 
+void PosixPort::CheckLine() noexcept {
+    if (line_ && IsHungUp(line_.Get())) LoseLine();
+}
+
 std::int32_t PosixPort::ReadByte() {
     if (!line_) return -1;
     std::uint8_t byte = 0;
     const auto count = ::read(line_.Get(), &byte, 1);
     idle_ = count != 1;
     if (count == 1) return byte;
-    // In raw mode an idle line says EAGAIN; 0 bytes is how a line that hung up reads.
-    if (count == 0 || !IsPassing(errno)) LoseLine();
+    // 0 bytes is how a line that hung up reads, but also an idle one whose settings another program
+    // has changed meanwhile.
+    if (count == 0 ? IsHungUp(line_.Get()) : !IsPassing(errno)) LoseLine();
     return -1;
 }
 
@@ -196,7 +215,8 @@ void PosixPort::AwaitRoom(Moment deadline) {
         poll(&room, 1, static_cast<int>(left.count()));
         return;
     }
-    // Half a record that left later would run into the next one.
+    // Half a record that left later would run into the next one, where the driver lets it be taken
+    // back.
     tcflush(line_.Get(), TCOFLUSH);
     throw PortError("the device takes no more bytes");
 }
@@ -209,7 +229,30 @@ void PosixPort::DiscardInput() {
 
 void PosixPort::ReopenLostLine() {
     DiscardInput();
-    if (lost_) OpenLine();
+    if (!lost_) return;
+    path_ = PathNow();
+    OpenLine();
+}
+
+// The old path as long as it is there, else that of a port that has come since the Open. A port
+// that stood beside it then is another device.
+std::string PosixPort::PathNow() const {
+    if (std::filesystem::exists(path_)) return path_;
+    const auto now = OtherPaths();
+    const auto come = std::find_if(now.begin(), now.end(), [this](const std::string& path) {
+        return std::find(otherPaths_.begin(), otherPaths_.end(), path) == otherPaths_.end();
+    });
+    return come == now.end() ? path_ : *come;
+}
+
+// Of all ports that the computer has now, but for the one that was opened last.
+std::vector<std::string> PosixPort::OtherPaths() const {
+    std::vector<std::string> paths;
+    for (std::int32_t number = 1; number <= kLastPort; ++number) {
+        std::string path = devicePaths_(number);
+        if (!path.empty() && path != path_) paths.push_back(std::move(path));
+    }
+    return paths;
 }
 
 }  // namespace keplin

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "device/serial_port.h"
 #include "platform/unique_fd.h"
@@ -13,12 +15,13 @@
 namespace keplin {
 
 // The path of the device behind a port number, empty when the computer has no such port. Asked at
-// each Open, so that a port plugged in meanwhile is found.
+// each opening, so that a port plugged in meanwhile is found.
 using DevicePaths = std::function<std::string(std::int32_t number)>;
 
 class PosixPort : public SerialPort {
   public:
-    explicit PosixPort(DevicePaths devicePaths);
+    // `lockFolder` is where terminal programs leave their lock files.
+    explicit PosixPort(DevicePaths devicePaths, std::filesystem::path lockFolder = "/run/lock");
     ~PosixPort() override;
     PosixPort(const PosixPort&) = delete;
     PosixPort& operator=(const PosixPort&) = delete;
@@ -32,35 +35,41 @@ class PosixPort : public SerialPort {
     void Setting47(std::int32_t) override {}
 
     // 1 when the port is open now, 0 when it is not: no such device, not a serial line, held by
-    // another program, no permission, settings that the device does not take. Closes the port that
-    // was open before. Does not wait for a carrier.
+    // another program or claimed by its lock file, no permission, settings that the device does not
+    // take. Closes the port that was open before. Does not wait for a carrier.
     std::int32_t Open() override;
-    // Always 0. Drops what was written and has not left yet.
+    // Always 0. Drops what was written and has not left yet; takes 0.5 s at most, whatever hangs on
+    // the line.
     std::int32_t Close() override;
     // Also -1 when the port is closed or the line is lost.
     std::int32_t ReadByte() override;
     // Both end within 500 ms. They throw PortError when the port is closed, the line is lost or the
-    // device does not take the bytes in that time; what it did not send by then is dropped.
+    // device does not take the bytes in that time. What it has not taken by then never leaves. What
+    // it has taken may leave later, ahead of the next bytes: a UART of the board forgets it, a USB
+    // adapter does not.
     void WriteByte(std::uint8_t byte) override;
     void WriteText(std::string_view text) override;
     // Does nothing on a closed port.
     void DiscardInput() override;
 
-    // Noticed by a read, a write or a discard. Ends with the next successful opening, or with
-    // Close.
+    // Noticed by a read, a write, a discard or CheckLine; the line is let go of at once. Ends with
+    // the next successful opening, or with Close.
     [[nodiscard]] bool LineLost() const override { return lost_; }
-    // Notices by itself that the line is gone. Drops what was received, as a discard does.
+    // Notices by itself that the line is gone. Drops what was received, as a discard does. Where
+    // the device's old path is gone too, the port that has come since the last Open is the one:
+    // an adapter may come back under another name.
     void ReopenLostLine() override;
 
-    // The descriptor to wait on for the next byte (POLLIN) while the line is idle: nothing was read
-    // since the last opening, discard or write, or the last read found nothing. -1 when there is
-    // nothing to wait for: the last read gave a byte and more may follow, the port is closed, the
-    // line is lost, or it was asked for already and nothing was read since: one wait for each read
-    // that finds nothing. A line that hung up ends such a wait at once, and the next ReadByte
-    // notices. The descriptor belongs to the port and serves for one wait.
-    [[nodiscard]] int TakeIdleDescriptor() {
-        return std::exchange(idle_, false) ? line_.Get() : -1;
-    }
+    // Notices a line that hung up while nobody uses it.
+    void CheckLine() noexcept;
+
+    // Called with the descriptor of each line that opens, and with -1 before it closes.
+    std::function<void(int descriptor)> OnLineChange;
+
+    // Whether to wait for the next byte before reading again: nothing was read since the last
+    // opening, discard or write, or the last read found nothing. Says so once for each read that
+    // finds nothing; the next ReadByte notices a line that hung up meanwhile.
+    [[nodiscard]] bool TakeIdle() { return std::exchange(idle_, false) && line_; }
 
   private:
     using Moment = std::chrono::steady_clock::time_point;
@@ -72,13 +81,18 @@ class PosixPort : public SerialPort {
     std::string_view WriteSome(std::string_view bytes);
     void AwaitRoom(Moment deadline);
 
-    DevicePaths devicePaths_;
+    [[nodiscard]] std::string PathNow() const;
+    [[nodiscard]] std::vector<std::string> OtherPaths() const;
+
+    const DevicePaths devicePaths_;
+    const std::filesystem::path lockFolder_;
     std::int32_t portNumber_ = 0;
     std::int32_t lineSpeed_ = 0;
 
     // The line opened last, as a lost one is to be opened again.
     std::string path_;
     std::int32_t speed_ = 0;
+    std::vector<std::string> otherPaths_;  // of the ports beside it at its Open
 
     UniqueFd line_;
     bool lost_ = false;

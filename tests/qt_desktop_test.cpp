@@ -1,6 +1,9 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QAbstractEventDispatcher>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QTimer>
@@ -9,6 +12,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "tests/support/pseudo_terminal.h"
 #include "tests/support/qt_window.h"
 
 namespace keplin::test {
@@ -28,16 +32,18 @@ TEST_F(QtDesktopTest, TheTimerTicksWhileItIsEnabled) {
 TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
     std::array<int, 2> line{};
     ASSERT_EQ(pipe(line.data()), 0);
-    int awaited = -1;
-    QtDesktop waiting(window, {.idleDescriptor = [&] { return std::exchange(awaited, -1); },
+    bool awaited = false;
+    QtDesktop waiting(window, {.awaitsByte = [&] { return std::exchange(awaited, false); },
+                               .hungUp = {},
                                .openFile = {},
                                .beforeEnd = {}});
+    waiting.WatchLine(line[0]);
     const auto fiftyYields = [&](bool wait) {
         const auto start = waiting.Now();
         for (int i = 0; i < 50; ++i) {
-            if (wait) awaited = line[0];
+            awaited = wait;
             waiting.Yield();
-            EXPECT_EQ(awaited, -1);
+            EXPECT_FALSE(awaited);
         }
         return waiting.Now() - start;
     };
@@ -49,6 +55,53 @@ TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
     EXPECT_LT(fiftyYields(true), silent);
     for (const int end : line)
         close(end);
+}
+
+// A click may open a dialog in the midst of a wait, which then waits itself.
+TEST_F(QtDesktopTest, AByteThatNobodyReadsKeepsNoLoopInsideAWaitBusy) {
+    const PseudoTerminal far;
+    const UniqueFd line(open(far.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK));
+    far.Send("U\n");
+    QtDesktop waiting(
+        window, {.awaitsByte = [] { return true; }, .hungUp = {}, .openFile = {}, .beforeEnd = {}});
+    waiting.WatchLine(line.Get());
+    int rounds = 0;
+    QTimer::singleShot(0, &window, [&] {
+        QEventLoop dialog;
+        QTimer::singleShot(50, &dialog, &QEventLoop::quit);
+        const auto* dispatcher = QAbstractEventDispatcher::instance();
+        QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, &dialog, [&] { ++rounds; });
+        dialog.exec();
+    });
+    waiting.Yield();
+    EXPECT_GT(rounds, 0);
+    EXPECT_LT(rounds, 50);
+}
+
+TEST_F(QtDesktopTest, AHangUpIsToldOnceByTheEventLoopAloneAndNoUnreadByteIsTakenForOne) {
+    PseudoTerminal far;
+    UniqueFd line(open(far.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK));
+    int told = 0;
+    QtDesktop* watching = nullptr;
+    QtDesktop atRest(window, {.awaitsByte = {},
+                              .hungUp =
+                                  [&] {
+                                      ++told;
+                                      watching->WatchLine(-1);
+                                      line.Reset();
+                                  },
+                              .openFile = {},
+                              .beforeEnd = {}});
+    watching = &atRest;
+    atRest.WatchLine(line.Get());
+    far.Send("noise\n");
+    ASSERT_TRUE(PseudoTerminal::IsReadable(line.Get()));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, 0);
+    far.HangUp();
+    EXPECT_TRUE(Until([&] { return told > 0; }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(QtDesktopTest, ANameOfNoFileCanBeTypedAndNoListOfNamesStaysBehind) {
@@ -65,7 +118,8 @@ TEST_F(QtDesktopTest, ANameOfNoFileCanBeTypedAndNoListOfNamesStaysBehind) {
 }
 
 TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
-    const QtDesktop::Hooks hooks{.idleDescriptor = {},
+    const QtDesktop::Hooks hooks{.awaitsByte = {},
+                                 .hungUp = {},
                                  .openFile = [](const auto& request) { return request.title; },
                                  .beforeEnd = {}};
     EXPECT_EQ(QtDesktop(window, hooks).ShowOpen({"", "typed", "", false}), "typed");
@@ -73,7 +127,8 @@ TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
     EXPECT_THROW(desktop.FileDateTime("/nowhere/to/be/found"), std::runtime_error);
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(
-        QtDesktop(window, {.idleDescriptor = {}, .openFile = {}, .beforeEnd = [] { return 3; }})
+        QtDesktop(window,
+                  {.awaitsByte = {}, .hungUp = {}, .openFile = {}, .beforeEnd = [] { return 3; }})
             .End(),
         testing::ExitedWithCode(3), "");
 }

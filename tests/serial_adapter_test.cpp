@@ -1,14 +1,19 @@
 // The serial adapter on real pseudo-terminals, whose far end the tests hold.
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <thread>
+#include <vector>
 
 #include "device/posix_port.h"
+#include "device/prompt_close.h"
 #include "tests/support/pseudo_terminal.h"
 
 namespace keplin::test {
@@ -28,17 +33,17 @@ std::int32_t OpenPort(PosixPort& port, std::int32_t number, std::int32_t speed =
 }
 
 // What opening this path gives to somebody else.
-std::int32_t OpenAnother(const fs::path& path) {
-    PosixPort port([&](std::int32_t) { return path.string(); });
+std::int32_t OpenAnother(const fs::path& path, const fs::path& lockFolder = "/nowhere") {
+    PosixPort port([&](std::int32_t) { return path.string(); }, lockFolder);
     return OpenPort(port, 1);
 }
 
 // The same without the privileges of root; the caller has them.
-std::int32_t OpenAsNobody(const fs::path& path) {
+std::int32_t OpenAsNobody(const fs::path& path, const fs::path& lockFolder = "/nowhere") {
     const pid_t child = fork();
     if (child == 0) {
         const bool changed = setgid(kNobody) == 0 && setuid(kNobody) == 0;
-        _exit(changed ? OpenAnother(path) : 99);
+        _exit(changed ? OpenAnother(path, lockFolder) : 99);
     }
     int status = 0;
     waitpid(child, &status, 0);
@@ -50,8 +55,17 @@ class SerialAdapter : public ::testing::Test {
     SerialAdapter() {
         fs::create_directory(folder_);
         Plug(*far_);
+        port_.OnLineChange = [this](int line) {
+            EXPECT_TRUE(line >= 0 || IsOpen(line_)) << "told too late";
+            line_ = line;
+        };
     }
-    void TearDown() override { fs::remove_all(folder_); }
+    void TearDown() override {
+        port_.Close();
+        fs::remove_all(folder_);
+    }
+
+    static bool IsOpen(int descriptor) { return fcntl(descriptor, F_GETFD) != -1; }
 
     // Puts a line behind the path of port 2, the only one there is.
     void Plug(const PseudoTerminal& line) const {
@@ -59,9 +73,11 @@ class SerialAdapter : public ::testing::Test {
         fs::create_symlink(line.Path(), device_);
     }
 
+    bool ByteComes() { return port_.TakeIdle() && PseudoTerminal::IsReadable(line_); }
+
     std::string Read(std::size_t count) {
         std::string bytes;
-        while (bytes.size() < count && PseudoTerminal::IsReadable(port_.TakeIdleDescriptor())) {
+        while (bytes.size() < count && ByteComes()) {
             for (auto byte = port_.ReadByte(); byte >= 0; byte = port_.ReadByte()) {
                 bytes += static_cast<char>(byte);
             }
@@ -73,8 +89,9 @@ class SerialAdapter : public ::testing::Test {
     void ExpectLost(int line) {
         EXPECT_TRUE(port_.LineLost());
         EXPECT_EQ(port_.ReadByte(), -1);
-        EXPECT_EQ(port_.TakeIdleDescriptor(), -1) << "a dead line is always ready";
-        EXPECT_EQ(fcntl(line, F_GETFD), -1) << "the adapter could not get its name back";
+        EXPECT_FALSE(port_.TakeIdle()) << "a dead line is always ready";
+        EXPECT_EQ(line_, -1);
+        EXPECT_FALSE(IsOpen(line)) << "the adapter could not get its name back";
         EXPECT_THROW(port_.WriteText(":"), PortError);
     }
 
@@ -82,8 +99,10 @@ class SerialAdapter : public ::testing::Test {
         fs::temp_directory_path() / ("keplin-serial-" + std::to_string(getpid()));
     const fs::path device_ = folder_ / "ttyUSB0";
     std::optional<PseudoTerminal> far_{std::in_place};
+    int line_ = -1;  // the descriptor that is to be watched
     PosixPort port_{
-        [this](std::int32_t number) { return number == 2 ? device_.string() : std::string{}; }};
+        [this](std::int32_t number) { return number == 2 ? device_.string() : std::string{}; },
+        folder_};
 };
 
 TEST_F(SerialAdapter, PassesEveryByteUnchangedBothWays) {
@@ -112,15 +131,15 @@ TEST_F(SerialAdapter, DropsWhatCameBeforeOpeningAndBeforeADiscard) {
     EXPECT_EQ(port_.ReadByte(), -1);
 
     far_->Send("stale");
-    ASSERT_TRUE(PseudoTerminal::IsReadable(port_.TakeIdleDescriptor()));
+    ASSERT_TRUE(ByteComes());
     EXPECT_EQ(port_.ReadByte(), 's');
-    EXPECT_EQ(port_.TakeIdleDescriptor(), -1) << "more bytes may be waiting";
+    EXPECT_FALSE(port_.TakeIdle()) << "more bytes may be waiting";
     port_.Setting47(-1);
     port_.DiscardInput();
-    EXPECT_GE(port_.TakeIdleDescriptor(), 0);
-    EXPECT_EQ(port_.TakeIdleDescriptor(), -1) << "one wait for each read";
+    EXPECT_TRUE(port_.TakeIdle());
+    EXPECT_FALSE(port_.TakeIdle()) << "one wait for each read";
     EXPECT_EQ(port_.ReadByte(), -1);
-    EXPECT_GE(port_.TakeIdleDescriptor(), 0);
+    EXPECT_TRUE(port_.TakeIdle());
 }
 
 TEST_F(SerialAdapter, KeepsASecondProgramOutUntilClosed) {
@@ -132,7 +151,7 @@ TEST_F(SerialAdapter, KeepsASecondProgramOutUntilClosed) {
 
     port_.DiscardInput();
     EXPECT_EQ(port_.ReadByte(), -1);
-    EXPECT_EQ(port_.TakeIdleDescriptor(), -1);
+    EXPECT_FALSE(port_.TakeIdle());
     EXPECT_FALSE(port_.LineLost());
     EXPECT_THROW(port_.WriteByte(kPing), PortError);
 }
@@ -156,7 +175,7 @@ TEST_F(SerialAdapter, OpensNothingButASerialLine) {
     }
     EXPECT_EQ(OpenPort(port_, 3), 0) << "no such port";
     EXPECT_EQ(OpenPort(port_, 2, 38401), 0) << "no such speed";
-    EXPECT_EQ(port_.TakeIdleDescriptor(), -1);
+    EXPECT_FALSE(port_.TakeIdle());
 }
 
 TEST_F(SerialAdapter, AStuckLineEndsTheWriteAndTheNextPingLeaves) {
@@ -183,7 +202,7 @@ TEST_F(SerialAdapter, NoticesAHangUpInEachStepOfAnExchange) {
         Plug(far_.emplace());
         EXPECT_GT(OpenPort(port_, 2), 0);
         EXPECT_FALSE(port_.LineLost());
-        return port_.TakeIdleDescriptor();
+        return line_;
     };
     {
         SCOPED_TRACE("before the discard");
@@ -206,12 +225,91 @@ TEST_F(SerialAdapter, NoticesAHangUpInEachStepOfAnExchange) {
         far_->Send(":0");
         EXPECT_EQ(Read(2), ":0");
         far_->HangUp();
-        EXPECT_TRUE(PseudoTerminal::IsReadable(port_.TakeIdleDescriptor())) << "the wait goes on";
+        EXPECT_TRUE(ByteComes()) << "the wait goes on";
         EXPECT_EQ(port_.ReadByte(), -1);
+        ExpectLost(line);
+    }
+    {
+        SCOPED_TRACE("at rest");
+        const int line = openLine();
+        far_->Send("noise");
+        ASSERT_TRUE(PseudoTerminal::IsReadable(line));
+        port_.CheckLine();
+        EXPECT_FALSE(port_.LineLost());
+        far_->HangUp();
+        port_.CheckLine();
         ExpectLost(line);
     }
     port_.Close();
     EXPECT_FALSE(port_.LineLost());
+}
+
+// A terminal program looks at the line meanwhile and changes its settings.
+TEST_F(SerialAdapter, AnIdleLineThatReadsAsEndedIsNotLost) {
+    ASSERT_GT(OpenPort(port_, 2), 0);
+    termios settings = far_->Settings();
+    settings.c_cc[VMIN] = 0;
+    far_->Apply(settings);
+    EXPECT_EQ(port_.ReadByte(), -1);
+    EXPECT_FALSE(port_.LineLost());
+    far_->Send("U");
+    EXPECT_EQ(Read(1), "U");
+    far_->HangUp();
+    EXPECT_EQ(port_.ReadByte(), -1);
+    EXPECT_TRUE(port_.LineLost());
+}
+
+TEST_F(SerialAdapter, StaysAwayFromAPortThatARunningProcessHasLocked) {
+    const fs::path lock = folder_ / "LCK..ttyUSB0";
+    const pid_t ended = fork();
+    if (ended == 0) _exit(0);
+    waitpid(ended, nullptr, 0);
+    const auto openLockedBy = [&](std::string_view contents) {
+        std::ofstream(lock, std::ios::binary) << contents;
+        return OpenAnother(device_, folder_);
+    };
+    const auto bytesOf = [](pid_t process) {
+        return std::string(reinterpret_cast<const char*>(&process), sizeof process);
+    };
+    EXPECT_EQ(openLockedBy("         1\n"), 0);
+    if (getuid() == 0) {
+        EXPECT_EQ(OpenAsNobody(device_, folder_), 0) << "another user's process";
+    }
+    EXPECT_EQ(openLockedBy(std::to_string(getpid()) + " terminal user\n"), 0);
+    EXPECT_EQ(openLockedBy(bytesOf(getpid())), 0);
+    EXPECT_EQ(openLockedBy(std::to_string(ended) + "\n"), 1) << "left behind";
+    for (const char* other : {"", "0\n", "-1\n", "no number"}) {
+        EXPECT_EQ(openLockedBy(other), 1) << other;
+    }
+}
+
+// No pseudo-terminal makes its closing wait; this socket does, for a reader who takes nothing.
+TEST(PromptClose, DoesNotWaitForADeviceThatTakesNoBytes) {
+    const UniqueFd listener(socket(AF_INET, SOCK_STREAM, 0));
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    auto* generic = reinterpret_cast<sockaddr*>(&address);
+    ASSERT_EQ(bind(listener.Get(), generic, size), 0);
+    ASSERT_EQ(getsockname(listener.Get(), generic, &size), 0);
+    ASSERT_EQ(listen(listener.Get(), 1), 0);
+    UniqueFd line(socket(AF_INET, SOCK_STREAM, 0));
+    ASSERT_EQ(connect(line.Get(), generic, size), 0);
+    const linger wait{1, 30};
+    ASSERT_EQ(setsockopt(line.Get(), SOL_SOCKET, SO_LINGER, &wait, sizeof wait), 0);
+    const std::string bytes(1 << 20, ':');
+    while (send(line.Get(), bytes.data(), bytes.size(), MSG_DONTWAIT) > 0) {
+    }
+
+    const int descriptor = line.Get();
+    const auto start = std::chrono::steady_clock::now();
+    ClosePromptly(std::move(line));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 10s);
+    EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);
+    struct sigaction action {};
+    sigaction(SIGALRM, nullptr, &action);
+    EXPECT_EQ(action.sa_handler, SIG_DFL) << "left behind";
 }
 
 TEST_F(SerialAdapter, ALostLineIsOpenedAgainOnlyWhenAskedTo) {
@@ -243,6 +341,35 @@ TEST_F(SerialAdapter, ALostLineIsOpenedAgainOnlyWhenAskedTo) {
     Plug(far_.emplace());
     port_.ReopenLostLine();
     EXPECT_NO_THROW(port_.WriteByte(kPing)) << "a loss that nobody has noticed yet";
+}
+
+// The adapter goes and comes back under another name, and then under its old one.
+TEST_F(SerialAdapter, ALostLineIsFoundUnderAnotherNameButNeverTakenForItsNeighbour) {
+    const PseudoTerminal neighbour;
+    const fs::path other = folder_ / "ttyUSB1";
+    std::vector<std::string> ports{device_, neighbour.Path()};
+    PosixPort port([&](std::int32_t number) {
+        const auto index = static_cast<std::size_t>(number - 1);
+        return index < ports.size() ? ports[index] : "";
+    });
+    const auto replug = [&](const fs::path& from, const fs::path& to) {
+        far_->HangUp();
+        port.CheckLine();
+        fs::remove(from);
+        ports = {neighbour.Path()};  // which is port 1 now
+        port.ReopenLostLine();
+        EXPECT_TRUE(port.LineLost());
+
+        fs::create_symlink(far_.emplace().Path(), to);
+        ports = {neighbour.Path(), to};
+        port.ReopenLostLine();
+        EXPECT_FALSE(port.LineLost());
+        EXPECT_NO_THROW(port.WriteByte(kPing));
+        EXPECT_EQ(far_->Receive(1), "U");
+    };
+    ASSERT_GT(OpenPort(port, 1), 0);
+    replug(device_, other);
+    replug(other, device_);
 }
 
 }  // namespace

@@ -189,7 +189,7 @@ TEST(UpdateRun, NoFailureLeavesAHandler) {
     rig.window.cmdPortTest.Press();
     rig.desktop.Answer = file.Path();
     rig.window.Next_2.Press();
-    failing(rig.window.Command1, 20);
+    failing(rig.window.Command1, 10);
     rig.desktop.AwakeFails = true;
     rig.window.Command1.Press();
     EXPECT_TRUE(rig.Completed());

@@ -33,7 +33,7 @@ class PseudoTerminal {
         settings.c_lflag |= ICANON | ECHO | ISIG;
         settings.c_cc[VMIN] = 0;
         cfsetspeed(&settings, B9600);
-        tcsetattr(master_.Get(), TCSANOW, &settings);
+        Apply(settings);
         Allow(0666);
     }
 
@@ -47,6 +47,8 @@ class PseudoTerminal {
         tcgetattr(master_.Get(), &settings);
         return settings;
     }
+
+    void Apply(const termios& settings) const { tcsetattr(master_.Get(), TCSANOW, &settings); }
 
     void Send(std::string_view bytes) const {
         const auto count = ::write(master_.Get(), bytes.data(), bytes.size());

@@ -22,12 +22,12 @@ constexpr std::chrono::microseconds kLateness{250};
 
 }  // namespace
 
-QtDesktop::QtDesktop(QWidget& window, Hooks hooks) : window_(window), hooks_(std::move(hooks)) {}
+QtDesktop::QtDesktop(QWidget& window, Hooks hooks)
+    : window_(window), hooks_(std::move(hooks)), line_(hooks_.hungUp) {}
 
 void QtDesktop::Yield() {
-    const int line = hooks_.idleDescriptor ? hooks_.idleDescriptor() : -1;
-    if (line >= 0) {
-        idle_.ProcessEvents(line);
+    if (hooks_.awaitsByte && hooks_.awaitsByte()) {
+        line_.ProcessEvents();
     } else {
         QCoreApplication::processEvents();
     }

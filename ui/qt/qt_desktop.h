@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "platform/desktop.h"
-#include "ui/qt/idle_wait.h"
 #include "ui/qt/keep_awake.h"
+#include "ui/qt/line_watch.h"
 
 namespace keplin::qt {
 
@@ -14,9 +14,11 @@ class QtDesktop : public Desktop {
   public:
     // What the program around it may want otherwise. An empty function changes nothing.
     struct Hooks {
-        // The open line on which a byte is awaited, or -1 when this yield is not to wait. Asked at
-        // each yield; having named the line once, it gives -1 until the line was read again.
-        std::function<int()> idleDescriptor;
+        // Whether a byte of the open line is awaited, so that this yield may wait for it. Asked at
+        // each yield; having said so once, it does not again until the line was read.
+        std::function<bool()> awaitsByte;
+        // The open line hung up; it is to be closed.
+        std::function<void()> hungUp;
         // Answers in place of the open-file dialog.
         std::function<std::optional<std::string>(const OpenFileRequest&)> openFile;
         // Runs right before the program ends and gives its exit code, which is 0 without it.
@@ -25,6 +27,10 @@ class QtDesktop : public Desktop {
 
     // `window` is the one that dialogs stand over; it must outlive the desktop.
     QtDesktop(QWidget& window, Hooks hooks);
+
+    // The descriptor of the open serial line from now on, or -1. A line is to be taken away before
+    // it is closed.
+    void WatchLine(int descriptor) { line_.Watch(descriptor); }
 
     void Yield() override;
     void Sleep(std::chrono::milliseconds duration) override;
@@ -39,7 +45,7 @@ class QtDesktop : public Desktop {
   private:
     QWidget& window_;
     const Hooks hooks_;
-    IdleWait idle_;
+    LineWatch line_;
     qt::KeepAwake keepAwake_;
 };
 
