@@ -129,5 +129,33 @@ TEST(Faults, ALostLineEndsTheExchangeAtOnceAndIsFoundAgainByTheNextRun) {
     EXPECT_TRUE(faulty.rig.Completed());
 }
 
+// What a stuck adapter kept of a record leaves when it takes bytes again: ahead of the next ping.
+TEST(Faults, WhatAnAdapterKeptOfOneExchangeSpoilsTheNextAndNeverPassesForIt) {
+    const TemporaryFile file(kSmallFile);
+    for (std::size_t k = 0; k < 9 + 4; ++k) {
+        for (const std::size_t from : {0U, 1U, 6U}) {
+            SCOPED_TRACE("exchange " + std::to_string(k + 1) + " from " + std::to_string(from));
+            Rig rig;
+            rig.trace.Recording = false;
+            rig.ReachProgramPage(file.Path());
+            const std::size_t before = rig.port.Sent.size();
+            rig.port.KeepBack(before + k, from);
+            rig.window.Command1.Press();
+            const bool isPing = rig.port.Sent[before + k] == "U";
+            EXPECT_EQ(rig.Completed(), isPing && from > 0) << "nothing was kept";
+            EXPECT_EQ(rig.port.Sent.size() == before + k + 1, !rig.Completed());
+            if (rig.Completed()) continue;
+
+            // The leftover of a ping is a ping.
+            rig.window.Command1.Press();
+            EXPECT_EQ(rig.Completed(), isPing);
+            if (isPing) continue;
+            EXPECT_EQ(rig.port.Sent.size(), before + k + 2) << "more than a ping was sent";
+            rig.window.Command1.Press();
+            EXPECT_TRUE(rig.Completed());
+        }
+    }
+}
+
 }  // namespace
 }  // namespace keplin::test

@@ -2,7 +2,9 @@
 // real line's pace.
 #pragma once
 
+#include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "device/serial_port.h"
@@ -33,6 +35,7 @@ class VirtualPort : public SerialPort {
     void Setting47(std::int32_t) override {}
 
     std::int32_t Open() override {
+        kept_.clear();
         open_ = number_ <= kControllerPort ? number_ : 0;
         lost_ = Connected() && !wire_.PlugIn();
         DiscardInput();
@@ -58,8 +61,21 @@ class VirtualPort : public SerialPort {
     [[nodiscard]] bool LineLost() const override { return lost_; }
     void ReopenLostLine() override {
         DiscardInput();
-        if (lost_) lost_ = !wire_.PlugIn();
+        if (!lost_) return;
+        kept_.clear();
+        lost_ = !wire_.PlugIn();
     }
+
+    // The window's event loop looks after the line.
+    void CheckLine() { lost_ = lost_ || (Connected() && wire_.HungUp()); }
+
+    // The adapter keeps the bytes of that transmission, counted from 0 over all of them, from the
+    // given one on; they leave ahead of the next transmission.
+    void KeepBack(std::size_t transmission, std::size_t from) {
+        keptTransmission_ = transmission;
+        keptFrom_ = from;
+    }
+    [[nodiscard]] bool KeepsBytes() const { return !kept_.empty(); }
 
     // Lets what is still on the wire arrive, as far as it is due.
     void Settle() { wire_.Advance(desktop_.Clock); }
@@ -73,8 +89,13 @@ class VirtualPort : public SerialPort {
         if (LineLost()) throw PortError("the line is lost");
         desktop_.Log(text == "U" ? "WriteByte 85" : "WriteText " + text);
         if (!Connected()) return;
-        const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-        wire_.HostSends({bytes, text.size()}, desktop_.Clock);
+        std::string leaving = std::exchange(kept_, "") + text;
+        if (Sent.size() == keptTransmission_) {
+            kept_ = text.substr(std::min(keptFrom_, text.size()));
+            leaving.resize(leaving.size() - kept_.size());
+        }
+        const auto* bytes = reinterpret_cast<const std::uint8_t*>(leaving.data());
+        wire_.HostSends({bytes, leaving.size()}, desktop_.Clock);
         Sent.push_back(std::move(text));
     }
 
@@ -83,6 +104,9 @@ class VirtualPort : public SerialPort {
     std::int32_t number_ = 0;
     std::int32_t open_ = 0;
     bool lost_ = false;
+    std::size_t keptTransmission_ = std::string::npos;
+    std::size_t keptFrom_ = 0;
+    std::string kept_;  // in the adapter
 };
 
 }  // namespace keplin::test
