@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "platform/desktop.h"
+#include "ui/qt/drawing_threads.h"
 #include "ui/qt/keep_awake.h"
 #include "ui/qt/line_watch.h"
 
@@ -46,6 +47,7 @@ class QtDesktop : public Desktop {
     QWidget& window_;
     const Hooks hooks_;
     LineWatch line_;
+    DrawingThreads threads_;
     qt::KeepAwake keepAwake_;
 };
 
