@@ -1,13 +1,17 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QAbstractEventDispatcher>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QTimer>
 #include <array>
 #include <chrono>
+#include <functional>
 #include <stdexcept>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "tests/support/qt_window.h"
 
@@ -15,6 +19,20 @@ namespace keplin::test {
 namespace {
 
 using QtDesktopTest = QtWindow;
+
+class WhenPainted : public QObject {
+  public:
+    WhenPainted(QWidget& widget, std::function<void()> act) : act_(std::move(act)) {
+        widget.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) act_();
+        return false;
+    }
+
+  private:
+    const std::function<void()> act_;
+};
 
 TEST_F(QtDesktopTest, TheTimerTicksWhileItIsEnabled) {
     int ticks = 0;
@@ -51,6 +69,23 @@ TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
     EXPECT_LT(fiftyYields(true), silent);
     for (const int end : line)
         close(end);
+}
+
+TEST_F(QtDesktopTest, WhatWasSetIsPaintedAndHandedOverBeforeASleepWhichHandlesNoEvent) {
+    std::vector<std::string> happened;
+    const auto note = [&](const char* what) { happened.emplace_back(what); };
+    WhenPainted painted(*Find(model.Label9), [&] { note("painted"); });
+    const auto* dispatcher = QAbstractEventDispatcher::instance();
+    QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, &window,
+                     [&] { note("handed over"); });
+    QTimer::singleShot(0, &window, [&] { note("timer"); });
+    QMetaObject::invokeMethod(
+        &window, [&] { note("event"); }, Qt::QueuedConnection);
+    model.Label9.Caption = "Version 2.00";
+    const auto start = desktop.Now();
+    desktop.Sleep(std::chrono::milliseconds(20));
+    EXPECT_GE(desktop.Now() - start, std::chrono::milliseconds(20));
+    EXPECT_EQ(happened, (std::vector<std::string>{"painted", "handed over"}));
 }
 
 TEST_F(QtDesktopTest, ANameOfNoFileCanBeTypedAndNoListOfNamesStaysBehind) {

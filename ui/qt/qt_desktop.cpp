@@ -1,5 +1,6 @@
 #include "ui/qt/qt_desktop.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
@@ -20,6 +21,15 @@ namespace {
 // How late the system may wake a sleeper.
 constexpr std::chrono::microseconds kLateness{250};
 
+// Brings to the screen what the window has not painted yet, or has painted and not handed over: Qt
+// does that when its event loop comes to rest, and a compositor may have put it off till then.
+// Handles no event of the technician and no timer.
+void ShowAllThatWasSet(QWidget& window) {
+    QEvent update(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&window, &update);
+    emit QAbstractEventDispatcher::instance()->aboutToBlock();
+}
+
 }  // namespace
 
 QtDesktop::QtDesktop(QWidget& window, Hooks hooks)
@@ -38,6 +48,7 @@ void QtDesktop::Yield() {
 void QtDesktop::Sleep(std::chrono::milliseconds duration) {
     using std::chrono::steady_clock;
     const auto end = steady_clock::now() + duration;
+    ShowAllThatWasSet(window_);
     std::this_thread::sleep_until(end - kLateness);
     while (steady_clock::now() < end) {
     }
