@@ -109,33 +109,49 @@ TEST_F(QtWindow, WhileAPressIsAtWorkALostFocusPressesNothing) {
     Show(model.PicSetup);
     Type(Qt::Key_Return);
     EXPECT_EQ(Focused(), "cmdPortTest");
+    LetButtonsBePressed();
     found = true;
     Type(Qt::Key_Return);
     EXPECT_EQ(Focused(), "Next_2");
     Find(model.cmdPortTest)->setFocus();
+    LetButtonsBePressed();
     Type(Qt::Key_Return);
     EXPECT_EQ(Focused(), "cmdPortTest");
 }
 
-// The second stroke of a double press, and a click on a grey button that waits for a pause to end.
+// The second stroke of a double press, and a click on a grey button or on the title bar's close
+// control that waits for a pause to end.
 TEST_F(QtWindow, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
     int presses = 0;
     model.Command1.OnClick = [&] { ++presses; };
+    model.Window.OnCloseRequest = [&] { ++presses; };
     const auto pressInEachWay = [&] {
         Type(Qt::Key_Return);
         Type(Qt::Key_Space);
         Click(model.Command1);
         return std::exchange(presses, 0);
     };
-    QApplication::setDoubleClickInterval(200);
-    Show(model.PicProgram);
-    EXPECT_EQ(Focused(), "Command1");
+    ShowPage(model.PicProgram);
+    Find(model.Command1)->setFocus();
     EXPECT_EQ(pressInEachWay(), 0);
-    desktop.Sleep(std::chrono::milliseconds(200));
+    now += PressGuard::kPause - std::chrono::milliseconds(1);
+    EXPECT_EQ(pressInEachWay(), 0);
+    now += std::chrono::milliseconds(1);
     EXPECT_EQ(pressInEachWay(), 3);
-    model.Command1.Enabled = false;
-    model.Command1.Enabled = true;
+    window.showMinimized();
+    window.showNormal();
+    desktop.Yield();
+    EXPECT_EQ(pressInEachWay(), 3);
+    for (Button* button : {&model.Command1, &model.cmdExit}) {
+        button->Enabled = false;
+        button->Enabled = true;
+    }
     EXPECT_EQ(pressInEachWay(), 0);
+    window.close();
+    EXPECT_EQ(presses, 0);
+    LetButtonsBePressed();
+    window.close();
+    EXPECT_EQ(presses, 1);
 }
 
 TEST_F(QtWindow, AskedToCloseItAsksTheModel) {

@@ -27,15 +27,19 @@ class QtWindow : public testing::Test {
         ShowPage(model.PicGettingStarted);
         model.Window.Height = 5460;
         model.Window.Visible = true;
-        QApplication::setDoubleClickInterval(0);
         QCoreApplication::processEvents();
+        LetButtonsBePressed();
     }
 
+    void LetButtonsBePressed() { now += PressGuard::kPause; }
+
+    // The page as the technician finds it after a look at it.
     void Show(Page& page) {
         for (Page* other : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {
             if (other != &page) other->Visible = false;
         }
         ShowPage(page);
+        LetButtonsBePressed();
     }
 
     template <typename Widget = QWidget>
@@ -96,7 +100,8 @@ class QtWindow : public testing::Test {
     }
 
     ISPMain model;
-    qt::MainWindow window{model};
+    PressGuard::Moment now{};  // as the window counts, which passes over what came just now
+    qt::MainWindow window{model, [this] { return now; }};
     QtDesktop desktop{window, {}};
 };
 

@@ -1,18 +1,18 @@
 #include "ui/qt/button_widget.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QStyleOptionButton>
 
 namespace keplin::qt {
 
 ButtonWidget::ButtonWidget(const Button& button, const Look& look, FocusKeeper& focus,
-                           QWidget* parent)
-    : QPushButton(parent), button_(button), look_(look) {
+                           PressGuard& guard, QWidget* parent)
+    : QPushButton(parent), button_(button), look_(look), guard_(guard) {
     setFocusPolicy(Qt::StrongFocus);
     ApplyCommon(*this, button, look.scale);
     ApplyCaption();
     focus.Add(button, *this);
+    guard.Add(button);
     connect(this, &QPushButton::clicked, this, [this, &focus] { focus.Press(button_); });
 }
 
@@ -27,24 +27,10 @@ void ButtonWidget::ApplyCaption() {
     setText(ToQt(button_.Caption).replace('&', "&&"));
 }
 
-void ButtonWidget::changeEvent(QEvent* event) {
-    QPushButton::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange) sinceReady_.start();
-}
-
-void ButtonWidget::showEvent(QShowEvent* event) {
-    QPushButton::showEvent(event);
-    sinceReady_.start();
-}
-
-bool ButtonWidget::CameJustNow() const {
-    return sinceReady_.isValid() && sinceReady_.elapsed() < QApplication::doubleClickInterval();
-}
-
 // A key that is held down presses once.
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool meant = !event->isAutoRepeat() && !CameJustNow();
+    const bool meant = !event->isAutoRepeat() && guard_.Takes(button_);
     if (!meant && (enter || event->key() == Qt::Key_Space)) return;
     if (enter) {
         click();
@@ -54,7 +40,7 @@ void ButtonWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 void ButtonWidget::mousePressEvent(QMouseEvent* event) {
-    if (!CameJustNow()) QPushButton::mousePressEvent(event);
+    if (guard_.Takes(button_)) QPushButton::mousePressEvent(event);
 }
 
 // The focus shows from the start, not only after the first use of the keyboard.

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
+#include <utility>
 
 #include "ui/qt/font_choice.h"
 #include "ui/qt/picture_widget.h"
@@ -18,21 +19,23 @@ constexpr Qt::WindowFlags kFrame = Qt::Window | Qt::CustomizeWindowHint | Qt::Wi
 
 }  // namespace
 
-MainWindow::MainWindow(ISPMain& model)
+MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     : QWidget(nullptr, kFrame),
       model_(model),
       look_{model.Window, model.Controls(), Scale(logicalDpiY()), {}},
-      focus_(*this) {
+      focus_(*this),
+      guard_(model.Window, std::move(clock)) {
     look_.font = ChooseFont(look_);
     setFont(look_.font);
     setWindowIcon(ProgramIcon());
-    WidgetMaker maker(*this, look_, focus_);
+    WidgetMaker maker(*this, look_, focus_, guard_);
     for (const Control* control : model.Controls())
         control->Accept(maker);
     drawn_ = std::move(maker.Made);
     for (const Aspect aspect : {Aspect::Caption, Aspect::Height})
         ApplyToWindow(aspect);
     focus_.AfterChange();
+    guard_.AfterChange();
     model.Observe(this);
 }
 
@@ -40,18 +43,21 @@ MainWindow::~MainWindow() {
     model_.Observe(nullptr);
 }
 
-// Whether the window closes is the model's to decide. A desktop that logs out asks the same way; it
-// is not held up, and ends the program by itself where the model does not.
+// Whether the window closes is the model's to decide. A request that waited for a pause to end, or
+// came just after it, is passed over like a press of Close. A desktop that logs out asks the same
+// way; it is not held up, and ends the program by itself where the model does not.
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    model_.Window.RequestClose();
+    if (guard_.Takes(model_.cmdExit)) model_.Window.RequestClose();
 }
 
 void MainWindow::Changed(const Control& control, Aspect aspect) {
     const bool reach = aspect == Aspect::Visible || aspect == Aspect::Enabled;
     if (reach) focus_.BeforeChange();
     Apply(control, aspect);
-    if (reach) focus_.AfterChange();
+    if (!reach) return;
+    focus_.AfterChange();
+    guard_.AfterChange();
 }
 
 void MainWindow::Apply(const Control& control, Aspect aspect) {

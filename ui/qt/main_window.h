@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "ui/isp_main.h"
+#include "ui/press_guard.h"
 #include "ui/qt/drawn.h"
 #include "ui/qt/focus_keeper.h"
 
@@ -13,8 +14,9 @@ namespace keplin::qt {
 class MainWindow : public QWidget, public Observer {
   public:
     // Draws the model as it stands and follows it from here on; hidden until the model's window is
-    // visible. The model must outlive it. Needs a QApplication.
-    explicit MainWindow(ISPMain& model);
+    // visible. The model must outlive it. Needs a QApplication. `clock` tells since when a button
+    // can be pressed.
+    explicit MainWindow(ISPMain& model, PressGuard::Clock clock = std::chrono::steady_clock::now);
     ~MainWindow() override;
 
     void Changed(const Control& control, Aspect aspect) override;
@@ -31,6 +33,7 @@ class MainWindow : public QWidget, public Observer {
     ISPMain& model_;
     Look look_;
     FocusKeeper focus_;
+    PressGuard guard_;
     std::unordered_map<const Control*, Drawn*> drawn_;
 };
 

@@ -36,7 +36,7 @@ void WidgetMaker::Visit(const Label& label) {
 }
 
 void WidgetMaker::Visit(const Button& button) {
-    Make<ButtonWidget>(button, button, look_, focus_);
+    Make<ButtonWidget>(button, button, look_, focus_, guard_);
 }
 
 void WidgetMaker::Visit(const Picture& picture) {

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <unordered_map>
 
+#include "ui/press_guard.h"
 #include "ui/qt/drawn.h"
 #include "ui/qt/focus_keeper.h"
 
@@ -11,11 +12,12 @@ namespace keplin::qt {
 
 class StatusBarWidget;
 
-// The widgets belong to the window; they hold on to the look and the focus keeper.
+// The widgets belong to the window; they hold on to the look, the focus keeper and
+// the press guard.
 class WidgetMaker : public ControlVisitor {
   public:
-    WidgetMaker(QWidget& window, const Look& look, FocusKeeper& focus)
-        : window_(window), look_(look), focus_(focus) {}
+    WidgetMaker(QWidget& window, const Look& look, FocusKeeper& focus, PressGuard& guard)
+        : window_(window), look_(look), focus_(focus), guard_(guard) {}
 
     void Visit(const Form& form) override;
     void Visit(const Page& page) override;
@@ -40,6 +42,7 @@ class WidgetMaker : public ControlVisitor {
     QWidget& window_;
     const Look& look_;
     FocusKeeper& focus_;
+    PressGuard& guard_;
     std::unordered_map<const Control*, QWidget*> containers_;
     std::unordered_map<const Control*, StatusBarWidget*> bars_;
 };
