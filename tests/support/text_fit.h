@@ -43,11 +43,19 @@ inline bool IsCovered(const QLabel& label, const QRect& ink) {
     return std::any_of(siblings.begin() + siblings.indexOf(&label) + 1, siblings.end(), covers);
 }
 
-inline bool IsWhole(const QLabel& label) {
+// A text of one line that is cut off has ink in the last column that it may fill.
+inline bool IsCutOff(QLabel& label) {
+    const QRect inside = label.contentsRect();
+    const QImage column = label.grab({inside.topRight(), inside.bottomRight()}).toImage();
+    for (int y = 1; y < column.height(); ++y) {
+        if (column.pixel(0, y) != column.pixel(0, 0)) return true;
+    }
+    return false;
+}
+
+inline bool IsWhole(QLabel& label) {
     if (!label.wordWrap()) {
-        return label.fontMetrics().horizontalAdvance(label.text()) <=
-                   label.contentsRect().width() &&
-               label.fontMetrics().height() <= label.contentsRect().height();
+        return !IsCutOff(label) && label.fontMetrics().height() <= label.contentsRect().height();
     }
     const QRect ink = InkOf(label);
     return label.rect().contains(ink) && !IsCovered(label, ink);
@@ -56,7 +64,7 @@ inline bool IsWhole(const QLabel& label) {
 // The names of the visible labels, panels and buttons whose text is cut off or covered now.
 inline std::vector<std::string> TextsThatDoNotFit(const QWidget& window) {
     std::vector<std::string> names;
-    for (const QLabel* label : window.findChildren<QLabel*>()) {
+    for (QLabel* label : window.findChildren<QLabel*>()) {
         const bool shown = label->isVisible() && !label->text().isEmpty();
         if (shown && !IsWhole(*label)) names.push_back(label->objectName().toStdString());
     }

@@ -36,14 +36,18 @@ void PanelWidget::Apply(Aspect aspect) {
     if (aspect == Aspect::Caption) bar_.Arrange();
 }
 
+int PanelWidget::BesideText() const {
+    return 2 * (kMargin + frameWidth());
+}
+
 int PanelWidget::WidthOfText() const {
-    return fontMetrics().horizontalAdvance(ToQt(panel_.Text)) + 2 * (kMargin + frameWidth());
+    return fontMetrics().horizontalAdvance(ToQt(panel_.Text)) + BesideText();
 }
 
 void PanelWidget::ShowText() {
     const QString whole = ToQt(panel_.Text);
     const bool fits = WidthOfText() <= width();
-    const int room = contentsRect().width();
+    const int room = width() - BesideText();
     setText(fits ? whole : fontMetrics().elidedText(whole, Qt::ElideMiddle, room));
     setToolTip(fits ? QString() : ToolTip(whole));
     const QString name = whole.isEmpty() ? accessibleDescription() : whole;

@@ -26,6 +26,9 @@ class PanelWidget final : public QLabel, public Drawn {
     void initStyleOption(QStyleOptionFrame* option) const override;
 
   private:
+    // The pixels beside the text, left and right together.
+    [[nodiscard]] int BesideText() const;
+
     const keplin::Panel& panel_;
     StatusBarWidget& bar_;
 };
