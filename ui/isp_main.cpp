@@ -120,6 +120,10 @@ void Win95Shrivel(Form& xForm) {
     xForm.WindowState = Form::State::Minimised;
 }
 
+bool EndsAWait(const ISPMain& window, const Control& control, Aspect aspect) {
+    return &control == &window.cmdExit && aspect == Aspect::Enabled && window.cmdExit.Enabled;
+}
+
 void ShowPage(Page& page) {
     page.Left = kShownPageLeft;
     page.Top = kShownPageTop;

@@ -68,6 +68,10 @@ class ISPMain : public ControlList {
 // Minimises the window.
 void Win95Shrivel(Form& xForm);
 
+// The change ended what the technician was waiting for, a port test or an update run: Close can be
+// pressed again.
+bool EndsAWait(const ISPMain& window, const Control& control, Aspect aspect);
+
 // Moves a page to the place of the shown page and shows it.
 void ShowPage(Page& page);
 

@@ -58,6 +58,17 @@ void MainWindow::Changed(const Control& control, Aspect aspect) {
     if (!reach) return;
     focus_.AfterChange();
     guard_.AfterChange();
+    if (EndsAWait(model_, control, aspect) && !isActiveWindow()) CallForAttention();
+}
+
+// The desktop marks the window until the technician turns to it. Qt passes no alert on to a Wayland
+// compositor; one that is asked to activate the window marks it, as nobody has pressed anything.
+void MainWindow::CallForAttention() {
+    if (QGuiApplication::platformName() == "wayland") {
+        activateWindow();
+    } else {
+        QApplication::alert(this);
+    }
 }
 
 void MainWindow::Apply(const Control& control, Aspect aspect) {

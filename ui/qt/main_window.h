@@ -29,6 +29,7 @@ class MainWindow : public QWidget, public Observer {
     void ApplyToWindow(Aspect aspect);
     void ApplySize();
     void ShowCentred();
+    void CallForAttention();
 
     ISPMain& model_;
     Look look_;
