@@ -36,7 +36,7 @@ class Desktop {
     // nothing when the technician cancelled.
     virtual std::optional<std::string> ShowOpen(const OpenFileRequest& request) = 0;
 
-    // The current directory of the process.
+    // The current directory of the process, or a directory in its place where that was deleted.
     virtual std::string CurrentDirectory() = 0;
 
     // The file's length in bytes. Throws std::runtime_error when it cannot be told.

@@ -2,8 +2,10 @@
 #include <unistd.h>
 
 #include <QAbstractEventDispatcher>
+#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <array>
 #include <chrono>
@@ -99,6 +101,17 @@ TEST_F(QtDesktopTest, ANameOfNoFileCanBeTypedAndNoListOfNamesStaysBehind) {
     });
     const auto answer = desktop.ShowOpen({"QDX-470 Files (*.HEX)|*.HEX", "Select", "/tmp", true});
     EXPECT_EQ(answer, "/tmp/missing.HEX");
+}
+
+TEST_F(QtDesktopTest, WhereTheWorkingDirectoryWasDeletedHomeStandsInForIt) {
+    const QString before = QDir::currentPath();
+    EXPECT_EQ(desktop.CurrentDirectory(), before.toStdString());
+    {
+        const QTemporaryDir deleted;
+        ASSERT_TRUE(QDir::setCurrent(deleted.path()));
+    }
+    EXPECT_EQ(desktop.CurrentDirectory(), QDir::homePath().toStdString());
+    QDir::setCurrent(before);
 }
 
 TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {

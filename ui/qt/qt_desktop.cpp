@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -10,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -64,7 +66,9 @@ std::optional<std::string> QtDesktop::ShowOpen(const OpenFileRequest& request) {
 }
 
 std::string QtDesktop::CurrentDirectory() {
-    return std::filesystem::current_path().string();
+    std::error_code deleted;
+    const auto path = std::filesystem::current_path(deleted);
+    return deleted ? QFile::encodeName(QDir::homePath()).toStdString() : path.string();
 }
 
 std::uint64_t QtDesktop::FileLength(const std::string& path) {
