@@ -2,10 +2,13 @@
 #include <unistd.h>
 
 #include <QAbstractEventDispatcher>
+#include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QLocale>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTimer>
 #include <array>
 #include <chrono>
@@ -122,6 +125,14 @@ TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
     EXPECT_EQ(QtDesktop(window, hooks).ShowOpen({"", "typed", "", false}), "typed");
     EXPECT_THROW(desktop.FileLength("/nowhere/to/be/found"), std::runtime_error);
     EXPECT_THROW(desktop.FileDateTime("/nowhere/to/be/found"), std::runtime_error);
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    for (const qint64 seconds : {0LL, -1LL, 4102444800LL}) {
+        const QDateTime time = QDateTime::fromSecsSinceEpoch(seconds);
+        ASSERT_TRUE(file.setFileTime(time, QFile::FileModificationTime));
+        EXPECT_EQ(desktop.FileDateTime(file.fileName().toStdString()),
+                  QLocale::system().toString(time, QLocale::ShortFormat).toStdString());
+    }
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(
         QtDesktop(window,

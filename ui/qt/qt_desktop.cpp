@@ -1,16 +1,18 @@
 #include "ui/qt/qt_desktop.h"
 
+#include <sys/stat.h>
+
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QLocale>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
+#include <string>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -76,8 +78,10 @@ std::uint64_t QtDesktop::FileLength(const std::string& path) {
 }
 
 std::string QtDesktop::FileDateTime(const std::string& path) {
-    const QDateTime time = QFileInfo(QFile::decodeName(path.c_str())).lastModified();
-    if (!time.isValid()) throw std::runtime_error("the file's date cannot be told: " + path);
+    struct stat facts {};
+    if (stat(path.c_str(), &facts) != 0) throw std::runtime_error("no date of " + path);
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(facts.st_mtim.tv_sec);
+    if (!time.isValid()) return "@" + std::to_string(facts.st_mtim.tv_sec);  // past Qt's calendar
     return QLocale::system().toString(time, QLocale::ShortFormat).toStdString();
 }
 
