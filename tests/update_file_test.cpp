@@ -96,6 +96,14 @@ TEST_F(UpdateFileTest, HoldsTenThousandAndOneLinesAndNotOneMore) {
     EXPECT_EQ(Lines(), "earlier");
 }
 
+TEST_F(UpdateFileTest, RefusesAFileThatWouldFillTheMemory) {
+    constexpr int kLines = 4096;
+    const std::string line(LineReader::kLargestFile / kLines - 1, 'x');
+    const std::string largest = Repeat(line + "\r", kLines);
+    EXPECT_TRUE(Load(largest));
+    EXPECT_FALSE(Load(largest + "x"));
+}
+
 TEST_F(UpdateFileTest, ChecksumIsTheSumOfTheDataBytesOfAllLines) {
     const std::pair<std::string, const char*> cases[] = {
         {"", "0"},
@@ -108,6 +116,8 @@ TEST_F(UpdateFileTest, ChecksumIsTheSumOfTheDataBytesOfAllLines) {
         {":05000000010203F7", "FD"},  // the record's own checksum byte, then nothing
         {":01000000010203F7", "1"},
         {":80000000" + Repeat("FF", 128), "7F80"},
+        {":FF000000" + Repeat("0a0G7F:@", 63) + "7F7F3", "206F"},
+        {":" + Repeat("\xFF\xB0", 20), "0"},
     };
     for (const auto& [contents, sum] : cases) {
         ASSERT_TRUE(Load(contents)) << contents;

@@ -4,12 +4,6 @@
 #include <stdexcept>
 
 namespace keplin {
-namespace {
-
-// In bytes, far beyond any update file: a disk image taken for one would fill the memory.
-constexpr std::size_t kLongestLine = 64 << 20;
-
-}  // namespace
 
 bool LineReader::AtEnd() {
     ReadBlockIfEmpty();
@@ -21,20 +15,23 @@ bool LineReader::AtEnd() {
     return unread_.empty();
 }
 
-std::string LineReader::ReadLine() {
-    std::string line;
-    while (!AtEnd()) {
-        const std::size_t length = std::min(unread_.find('\r'), unread_.size());
-        line.append(unread_, 0, length);
-        unread_.remove_prefix(length);
-        if (line.size() > kLongestLine) throw std::runtime_error("no text file");
-        if (!unread_.empty()) {
-            unread_.remove_prefix(1);
-            afterReturn_ = true;
-            break;
-        }
-    }
-    return line;
+// A line that lies within one block is not copied.
+std::string_view LineReader::ReadLine() {
+    const std::string_view first = TakeUpToReturn();
+    if (afterReturn_) return first;
+    joined_ = first;
+    while (!afterReturn_ && !AtEnd())
+        joined_ += TakeUpToReturn();
+    return joined_;
+}
+
+// The rest of the line or, where that does not end in it, of the block.
+std::string_view LineReader::TakeUpToReturn() {
+    const std::size_t length = std::min(unread_.find('\r'), unread_.size());
+    const std::string_view taken = unread_.substr(0, length);
+    afterReturn_ = length < unread_.size();
+    unread_.remove_prefix(length + (afterReturn_ ? 1 : 0));
+    return taken;
 }
 
 void LineReader::ReadBlockIfEmpty() {
@@ -42,6 +39,8 @@ void LineReader::ReadBlockIfEmpty() {
     file_.read(block_.data(), static_cast<std::streamsize>(block_.size()));
     if (file_.fail() && !file_.eof()) throw std::runtime_error("read error");
     unread_ = {block_.data(), static_cast<std::size_t>(file_.gcount())};
+    size_ += unread_.size();
+    if (size_ > kLargestFile) throw std::runtime_error("no text file");
 }
 
 }  // namespace keplin

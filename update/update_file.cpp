@@ -78,10 +78,9 @@ UpdateFile::Contents UpdateFile::ReadLines() {
     Contents contents;
     LineReader reader(file_);
     while (!reader.AtEnd()) {
-        std::string line = reader.ReadLine();
-        const auto slot = static_cast<std::size_t>(contents.lines);
-        HexLines.at(slot) = std::move(line);
-        contents.sum = Add(contents.sum, LineDataSum(HexLines[slot]));
+        const std::string_view line = reader.ReadLine();
+        HexLines.at(static_cast<std::size_t>(contents.lines)) = std::string(line);
+        contents.sum = Add(contents.sum, LineDataSum(line));
         contents.lines = ToInt16(contents.lines + 1);
     }
     return contents;
