@@ -58,12 +58,14 @@ bool EveryTextFits(const Look& look) {
 
 }  // namespace
 
-// Only a family whose turn comes is looked up, which takes the system a while.
+// By another name the system knows a family too, but takes a while to find it: asked for last, and
+// only when its turn comes.
 QFont ChooseFont(const Look& look) {
     Look tried = look;
+    const QStringList known = QFontDatabase::families();
     for (int step = 0; kLargest - step * kStep >= kSmallest; ++step) {
         for (const QString& family : Families()) {
-            if (!QFontDatabase::hasFamily(family)) continue;
+            if (!known.contains(family) && !QFontDatabase::hasFamily(family)) continue;
             tried.font = Font(family, kLargest - step * kStep);
             if (EveryTextFits(tried)) return tried.font;
         }

@@ -4,6 +4,8 @@
 #include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
+#include <map>
+#include <tuple>
 
 namespace keplin::qt {
 namespace {
@@ -35,6 +37,29 @@ QRectF InkOf(const QTextLine& line, const QString& text, const QFont& font) {
     return {natural.left(), line.y() + line.ascent() + ink.top(), natural.width(), ink.height()};
 }
 
+using Inks = std::vector<QRectF>;
+
+// Of all lines of a text, from the top-left corner of its column.
+Inks MeasureInks(const QString& text, const QFont& font, Alignment alignment, double width) {
+    QTextLayout layout(text, font);
+    LayOut(layout, alignment, width);
+    Inks inks;
+    for (int i = 0; i < layout.lineCount(); ++i)
+        inks.push_back(InkOf(layout.lineAt(i), text, font));
+    return inks;
+}
+
+// The same from memory: a window asks again and again, to choose its font, for each label, and
+// whenever a neighbour comes or goes.
+const Inks& InksOf(const QString& text, const QFont& font, Alignment alignment, double width) {
+    constexpr std::size_t kMost = 200;  // several times the texts of a window
+    static std::map<std::tuple<QString, QString, Alignment, double>, Inks> known;
+    if (known.size() >= kMost) known.clear();
+    const auto [found, isNew] = known.try_emplace({text, font.key(), alignment, width});
+    if (isNew) found->second = MeasureInks(text, font, alignment, width);
+    return found->second;
+}
+
 bool Covers(const Control& sibling, const Control& label) {
     return &sibling != &label && sibling.Visible && sibling.Container == label.Container;
 }
@@ -61,15 +86,13 @@ TextRoom RoomOf(const Label& label, const Look& look) {
 
 bool Fits(const QString& text, const QFont& font, Alignment alignment, const TextRoom& room) {
     if (text.isEmpty()) return true;
-    QTextLayout layout(text, font);
-    LayOut(layout, alignment, room.area.width());
-    for (int i = 0; i < layout.lineCount(); ++i) {
-        const QRectF ink = InkOf(layout.lineAt(i), text, font).translated(room.area.topLeft());
-        const auto hidden = [&](const QRectF& cover) { return cover.intersects(ink); };
-        if (!room.area.contains(ink)) return false;
-        if (std::any_of(room.covered.begin(), room.covered.end(), hidden)) return false;
-    }
-    return true;
+    const Inks& inks = InksOf(text, font, alignment, room.area.width());
+    return std::all_of(inks.begin(), inks.end(), [&](const QRectF& fromColumn) {
+        const QRectF ink = fromColumn.translated(room.area.topLeft());
+        const auto hides = [&](const QRectF& cover) { return cover.intersects(ink); };
+        return room.area.contains(ink) &&
+               std::none_of(room.covered.begin(), room.covered.end(), hides);
+    });
 }
 
 void DrawWrapped(QPainter& painter, const QString& text, Alignment alignment, const QRectF& area) {
