@@ -81,7 +81,10 @@ TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
     EXPECT_TRUE(IsPainted(model.lblResults, QColor(255, 255, 192)));
     const auto* picture = Find<QLabel>(model.Image2);
     const QSize sharp = (QSizeF(picture->size()) * window.devicePixelRatioF()).toSize();
-    EXPECT_EQ(picture->pixmap(Qt::ReturnByValue).size(), sharp);
+    const QImage image = picture->pixmap(Qt::ReturnByValue).toImage();
+    EXPECT_EQ(image.size(), sharp);
+    const QPointF rim(113.0 / 292 * sharp.width(), 97.0 / 105 * sharp.height());  // of the board
+    EXPECT_EQ(image.pixelColor(rim.toPoint()), QColor(8, 96, 72));
     Find(model.cmdPortTest)->setFocus();
     const QImage focused = Find(model.cmdPortTest)->grab().toImage();
     Find(model.cmdExit)->setFocus();

@@ -1,7 +1,8 @@
 #include "ui/qt/picture_widget.h"
 
 #include <QPainter>
-#include <QSvgRenderer>
+#include <QPicture>
+#include <QResource>
 
 // Resources of a static library are known only after this.
 static void InitPictures() {
@@ -12,18 +13,33 @@ namespace keplin::qt {
 namespace {
 
 // The icon has drawings of its own for small sizes, with fewer and bolder lines.
-QString IconSource(int pixels) {
-    if (pixels <= 16) return ":/keplin-16.svg";
-    return pixels <= 32 ? ":/keplin-32.svg" : ":/keplin.svg";
+QString IconName(int pixels) {
+    if (pixels <= 16) return ":/keplin-16";
+    return pixels <= 32 ? ":/keplin-32" : ":/keplin";
 }
 
-QPixmap Draw(const QString& source, QSize pixels) {
-    InitPictures();
+QPixmap DrawStrokes(const QString& name, QSize pixels) {
+    QPicture strokes;
+    strokes.load(name + ".strokes");
     QPixmap pixmap(pixels);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    QSvgRenderer(source).render(&painter, QRectF(QPointF(0, 0), pixels));
+    painter.scale(pixels.width(), pixels.height());
+    painter.drawPicture(0, 0, strokes);
     return pixmap;
+}
+
+// From the pixels where they were prepared for this size.
+QPixmap Draw(const QString& name, QSize pixels) {
+    InitPictures();
+    const QResource prepared(
+        QString("%1-%2x%3").arg(name).arg(pixels.width()).arg(pixels.height()));
+    if (!prepared.isValid()) return DrawStrokes(name, pixels);
+    const QByteArray bytes = prepared.uncompressedData();
+    return QPixmap::fromImage(QImage(reinterpret_cast<const uchar*>(bytes.constData()),
+                                     pixels.width(), pixels.height(),
+                                     QImage::Format_ARGB32_Premultiplied)
+                                  .copy());
 }
 
 }  // namespace
@@ -42,7 +58,7 @@ void PictureWidget::Apply(Aspect aspect) {
 void PictureWidget::Render() {
     const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
     const bool icon = picture_.Shows == Picture::Image::Icon;
-    QPixmap drawn = Draw(icon ? IconSource(pixels.width()) : ":/getting-started.svg", pixels);
+    QPixmap drawn = Draw(icon ? IconName(pixels.width()) : ":/getting-started", pixels);
     drawn.setDevicePixelRatio(devicePixelRatioF());
     setPixmap(drawn);
 }
@@ -52,10 +68,11 @@ void PictureWidget::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
 }
 
+// Where a larger one is shown the desktop takes it from its own theme, by the desktop entry.
 QIcon ProgramIcon() {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-        icon.addPixmap(Draw(IconSource(size), {size, size}));
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
+        icon.addPixmap(Draw(IconName(size), {size, size}));
     }
     return icon;
 }
