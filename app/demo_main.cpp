@@ -60,7 +60,7 @@ class Demonstration {
     // The exit code: 0 when nothing was to be done, or was done and is true.
     int End() {
         const DemoController::Memory memory = controller_->ReadMemory();
-        controller_.reset();  // its device files go with it
+        controller_.reset();  // the line hangs up before anything else ends
         if (!Save(memory)) return 1;
         return options_.walk ? Judge(memory) : 0;
     }

@@ -59,28 +59,21 @@ UniqueFd OpenMaster() {
     return master;
 }
 
-std::string HostEnd(const UniqueFd& master) {
+// Stands for a file without opening it: a terminal would count this as a host.
+UniqueFd NameOf(const char* path) {
+    return UniqueFd(Checked(::open(path, O_PATH | O_CLOEXEC), path));
+}
+
+UniqueFd HostEnd(const UniqueFd& master) {
     std::array<char, 128> name{};
     const int error = ::ptsname_r(master.Get(), name.data(), name.size());
     if (error != 0) throw std::system_error(error, std::generic_category(), "ptsname");
-    return name.data();
+    return NameOf(name.data());
 }
 
 }  // namespace
 
-PrivateFolder::PrivateFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "keplin-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) Checked(-1, "mkdtemp");
-    path_ = name;
-}
-
-PrivateFolder::~PrivateFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-}
-
-PseudoTerminalLine::PseudoTerminalLine(DeviceEnd& device)
-    : wire_(device), devicePath_(folder_.Path() / "port") {
+PseudoTerminalLine::PseudoTerminalLine(DeviceEnd& device) : wire_(device), hostEnd_(NameOf("/")) {
     std::array<int, 2> ends{};
     Checked(::pipe2(ends.data(), O_CLOEXEC), "pipe2");
     wakeReader_ = UniqueFd(ends[0]);
@@ -92,6 +85,10 @@ PseudoTerminalLine::PseudoTerminalLine(DeviceEnd& device)
 PseudoTerminalLine::~PseudoTerminalLine() {
     wakeWriter_.Reset();
     thread_.join();
+}
+
+std::string PseudoTerminalLine::DevicePath() const {
+    return "/proc/" + std::to_string(::getpid()) + "/fd/" + std::to_string(hostEnd_.Get());
 }
 
 void PseudoTerminalLine::Run() {
@@ -123,13 +120,12 @@ void PseudoTerminalLine::FollowHangUp() {
 void PseudoTerminalLine::PlugIn() {
     master_ = OpenMaster();
     hostThere_ = true;
-    std::filesystem::create_symlink(HostEnd(master_), devicePath_);
+    Checked(::dup3(HostEnd(master_).Get(), hostEnd_.Get(), O_CLOEXEC), "dup3");
 }
 
-// The name must not outlive the terminal: the system gives its number to somebody else's.
+// What hostEnd_ stands for cannot be opened any more, not even when the system gives the terminal's
+// number to somebody else's.
 void PseudoTerminalLine::Unplug() {
-    std::error_code ignored;
-    std::filesystem::remove(devicePath_, ignored);
     master_.Reset();
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -17,23 +16,8 @@
 
 namespace keplin::simulator {
 
-// A folder that nobody else may enter, removed with all it holds.
-class PrivateFolder {
-  public:
-    // Throws std::system_error when there is no place for it.
-    PrivateFolder();
-    ~PrivateFolder();
-    PrivateFolder(const PrivateFolder&) = delete;
-    PrivateFolder& operator=(const PrivateFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
-  private:
-    std::filesystem::path path_;
-};
-
 // The line runs in a thread of its own from construction to destruction. When the device hangs up,
-// the pseudo-terminal is closed and DevicePath() does not exist; when it is back, which is looked
+// the pseudo-terminal is closed and DevicePath() cannot be opened; when it is back, which is looked
 // for every 10 ms, DevicePath() names a new one. Bytes for a host that reads too slowly, or is not
 // there, are lost.
 class PseudoTerminalLine {
@@ -45,8 +29,9 @@ class PseudoTerminalLine {
     PseudoTerminalLine(const PseudoTerminalLine&) = delete;
     PseudoTerminalLine& operator=(const PseudoTerminalLine&) = delete;
 
-    // The device file for the host; the same for the life of the line.
-    [[nodiscard]] std::string DevicePath() const { return devicePath_.string(); }
+    // The device file for the host; the same for the life of the line. It is no more than a
+    // descriptor of this process, so that nothing of it is left behind however the process ends.
+    [[nodiscard]] std::string DevicePath() const;
 
     // Calls `action` while the line leaves the device alone, and returns what it returns. The
     // device must not be touched in any other way while the line stands.
@@ -70,8 +55,7 @@ class PseudoTerminalLine {
 
     std::mutex mutex_;  // guards the device, and with it the wire
     Wire wire_;
-    PrivateFolder folder_;
-    const std::filesystem::path devicePath_;
+    const UniqueFd hostEnd_;  // what DevicePath() names
     UniqueFd master_;
     bool hostThere_ = true;  // has the device file open, as far as is known
     UniqueFd wakeReader_;

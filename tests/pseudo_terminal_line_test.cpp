@@ -7,7 +7,6 @@
 #include <termios.h>
 #include <unistd.h>
 
-#include <filesystem>
 #include <string>
 
 #include "platform/unique_fd.h"
@@ -22,10 +21,13 @@ constexpr int kPatience = 10'000;  // milliseconds
 
 const std::string kRecord = ":010000020CF1";
 
+UniqueFd OpenNow(const std::string& path) {
+    return UniqueFd(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
+}
+
 UniqueFd OpenWhenThere(const std::string& path) {
     for (int waited = 0; waited < kPatience; ++waited) {
-        UniqueFd host(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
-        if (host) return host;
+        if (UniqueFd host = OpenNow(path)) return host;
         ::poll(nullptr, 0, 1);
     }
     return {};
@@ -63,7 +65,7 @@ TEST(PseudoTerminalLine, IsRawAndAnswersOneHostAfterTheOther) {
             EXPECT_EQ(line.WithDevice([&] { return loader.ObeyedRecords().size(); }), hosts);
         }
     }
-    EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(path).parent_path()));
+    EXPECT_FALSE(OpenNow(path));
 }
 
 TEST(PseudoTerminalLine, HangsUpAndComesBack) {
@@ -79,7 +81,7 @@ TEST(PseudoTerminalLine, HangsUpAndComesBack) {
     pollfd state{host.Get(), POLLIN, 0};
     EXPECT_EQ(::poll(&state, 1, kPatience), 1);
     EXPECT_TRUE(state.revents & POLLHUP);
-    EXPECT_FALSE(std::filesystem::exists(line.DevicePath()));
+    EXPECT_FALSE(OpenNow(line.DevicePath()));
 
     line.WithDevice([&] { device.ClearFaults(); });
     const UniqueFd again = OpenWhenThere(line.DevicePath());
