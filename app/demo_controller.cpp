@@ -14,17 +14,19 @@ simulator::FaultyDevice& WithFaults(simulator::FaultyDevice& device,
 
 }  // namespace
 
-DemoController::DemoController(const std::vector<simulator::FaultAt>& faults)
-    : controller_(loader_, kSeed), port1_(nobody_), port2_(WithFaults(controller_, faults)) {}
+DemoController::DemoController(std::int32_t port, const std::vector<simulator::FaultAt>& faults)
+    : port_(port),
+      controller_(loader_, kSeed),
+      silentLine_(nobody_),
+      line_(WithFaults(controller_, faults)) {}
 
 std::string DemoController::DevicePath(std::int32_t port) const {
-    if (port == 1) return port1_.DevicePath();
-    if (port == 2) return port2_.DevicePath();
-    return "";
+    if (port == port_) return line_.DevicePath();
+    return port == 1 || port == 2 ? silentLine_.DevicePath() : "";
 }
 
 DemoController::Memory DemoController::ReadMemory() {
-    return port2_.WithDevice([this] {
+    return line_.WithDevice([this] {
         const auto cells = loader_.Memory().Cells();
         return Memory(cells.begin(), cells.end());
     });

@@ -1,5 +1,5 @@
-// The simulated controller of the demonstration, plugged in as port 2. Port 1 opens and is silent;
-// ports 3 and 4 do not exist.
+// The simulated controller of the demonstration, plugged in as port 1 or 2. The other one opens and
+// is silent; ports 3 and 4 do not exist.
 #pragma once
 
 #include <array>
@@ -18,7 +18,7 @@ class DemoController {
     using Memory = std::vector<std::uint8_t>;
 
     // Throws std::system_error when the system has no pseudo-terminal for it.
-    explicit DemoController(const std::vector<simulator::FaultAt>& faults);
+    DemoController(std::int32_t port, const std::vector<simulator::FaultAt>& faults);
 
     // The device behind a port number; empty where there is none.
     [[nodiscard]] std::string DevicePath(std::int32_t port) const;
@@ -27,11 +27,12 @@ class DemoController {
     Memory ReadMemory();
 
   private:
+    const std::int32_t port_;
     simulator::SilentDevice nobody_;
     simulator::Loader loader_;
     simulator::FaultyDevice controller_;
-    simulator::PseudoTerminalLine port1_;
-    simulator::PseudoTerminalLine port2_;
+    simulator::PseudoTerminalLine silentLine_;
+    simulator::PseudoTerminalLine line_;
 };
 
 }  // namespace keplin

@@ -1,5 +1,4 @@
 // keplin-demo: the whole program with a simulated controller plugged in.
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -10,10 +9,13 @@
 #include <memory>
 #include <string>
 
+#include "app/application.h"
 #include "app/change_printer.h"
 #include "app/demo_controller.h"
+#include "app/demo_mark.h"
 #include "app/demo_options.h"
 #include "app/file_image.h"
+#include "app/manual_key.h"
 #include "app/program.h"
 #include "app/stage_pictures.h"
 #include "app/walk.h"
@@ -25,13 +27,16 @@ class Demonstration {
   public:
     explicit Demonstration(DemoOptions options)
         : options_(std::move(options)),
-          controller_(std::make_unique<DemoController>(options_.faults)),
+          controller_(std::make_unique<DemoController>(options_.port, options_.faults)),
           program_([this](std::int32_t port) { return controller_->DevicePath(port); }, Hooks()),
-          pictures_(program_.window, program_.drawing, options_.pictures),
+          ribbon_(MarkAsDemonstration(program_.drawing)),
+          pictures_(program_.window, program_.drawing, ribbon_, options_.pictures),
           walk_(program_.window, program_.drawing, pictures_, options_.again),
           printer_(program_.drawing, [this](const Control& control, Aspect aspect) {
               pictures_.TakeAtStage(control, aspect);
-          }) {}
+          }) {
+        OpenManualOnF1(program_.drawing);
+    }
     ~Demonstration() { program_.window.Observe(&program_.drawing); }
     Demonstration(const Demonstration&) = delete;
     Demonstration& operator=(const Demonstration&) = delete;
@@ -101,6 +106,7 @@ class Demonstration {
     DemoOptions options_;
     std::unique_ptr<DemoController> controller_;
     Program program_;
+    QWidget& ribbon_;
     StagePictures pictures_;
     Walk walk_;
     ChangePrinter printer_;
@@ -113,9 +119,7 @@ int main(int argc, char** argv) {
     int exitCode = 0;
     auto options = keplin::ReadDemoOptions(argc, argv, exitCode);
     if (!options) return exitCode;
-    QApplication application(argc, argv);
-    QApplication::setApplicationName("keplin-demo");
-    QApplication::setDesktopFileName("keplin-demo");
+    const auto application = keplin::OpenDisplay(argc, argv, "keplin-demo");
     try {
         return keplin::Demonstration(std::move(*options)).Run();
     } catch (const std::exception& error) {

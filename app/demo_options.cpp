@@ -55,14 +55,21 @@ simulator::FaultAt ReadFault(const QString& text) {
     return *fault;
 }
 
+std::int32_t ReadPort(const QString& text) {
+    if (text != "1" && text != "2") throw WrongOption("no such port: " + text.toStdString());
+    return text.toInt();
+}
+
 void AddOptions(QCommandLineParser& parser) {
     parser.setApplicationDescription(
         "The QDX-470 update program with a simulated controller plugged in as port 2.\n"
-        "Port 1 opens and is silent; ports 3 and 4 do not exist.");
+        "Port 1 opens and is silent; ports 3 and 4 do not exist. Nothing is sent to a real one.");
     parser.addOptions({
         {{"h", "help"}, "Show this help."},
+        {{"v", "version"}, "Show the version."},
         {"walk", "Press the buttons as a technician would, and print every change of the window."},
         {"again", "With --walk: try a second time after a step that failed."},
+        {"port", "Plug the controller in as port 1 or 2; the other one is silent.", "PORT"},
         {"file", "The update file (default: the sample).", "PATH"},
         {"memory", "Write the controller's 64 KiB of memory as they are at the end.", "PATH"},
         {"pictures", "With --walk: save a picture of the window at each stage.", "DIR"},
@@ -89,6 +96,7 @@ DemoOptions Read(const QCommandLineParser& parser, const char* program) {
             throw WrongOption("--" + std::string(option) + " goes with --walk");
         }
     }
+    if (parser.isSet("port")) options.port = ReadPort(parser.value("port"));
     for (const QString& text : parser.values("fault"))
         options.faults.push_back(ReadFault(text));
     options.file = ReadableFile(parser.isSet("file") ? parser.value("file") : SampleFile(program));
@@ -115,7 +123,11 @@ std::optional<DemoOptions> ReadDemoOptions(int argc, char** argv, int& exitCode)
             throw WrongOption("unexpected: " + parser.positionalArguments().first().toStdString());
         }
         if (parser.isSet("help")) {
-            std::cout << parser.helpText().toStdString();
+            // Qt knows the program's name only once there is an application.
+            std::cout
+                << parser.helpText().replace("<executable_name>", "keplin-demo").toStdString();
+        } else if (parser.isSet("version")) {
+            std::cout << "keplin-demo " KEPLIN_VERSION "\n";
         } else if (parser.values("fault").contains("help")) {
             PrintFaults();
         } else {

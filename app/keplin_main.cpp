@@ -1,14 +1,13 @@
 // keplin: the program that a technician installs updates with, on the computer's serial ports.
-#include <QApplication>
-
+#include "app/application.h"
+#include "app/manual_key.h"
 #include "app/program.h"
 #include "device/port_list.h"
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    QApplication::setApplicationName("keplin");
-    QApplication::setDesktopFileName("keplin");
+    const auto application = keplin::OpenDisplay(argc, argv, "keplin");
     keplin::Program program(keplin::NumberedComputerPorts(), {});
+    keplin::OpenManualOnF1(program.drawing);
     program.handlers.Main();
     return QApplication::exec();
 }

@@ -23,13 +23,17 @@ std::string FileName(int number, std::string_view name) {
 
 }  // namespace
 
-StagePictures::StagePictures(const ISPMain& window, QWidget& drawing, std::string folder)
-    : window_(window), drawing_(drawing), folder_(std::move(folder)) {}
+StagePictures::StagePictures(const ISPMain& window, QWidget& drawing, QWidget& ribbon,
+                             std::string folder)
+    : window_(window), drawing_(drawing), ribbon_(ribbon), folder_(std::move(folder)) {}
 
 void StagePictures::Take(std::string_view name) {
     if (folder_.empty()) return;
     const std::string path = folder_ + "/" + FileName(++count_, name);
-    if (!drawing_.grab().save(QString::fromStdString(path), "PNG")) {
+    ribbon_.hide();
+    const QPixmap picture = drawing_.grab();
+    ribbon_.show();
+    if (!picture.save(QString::fromStdString(path), "PNG")) {
         std::cerr << "keplin-demo: cannot write " << path << "\n";
     }
 }

@@ -10,8 +10,9 @@ namespace keplin {
 
 class StagePictures {
   public:
-    // Saves into `folder`; an empty one: takes none.
-    StagePictures(const ISPMain& window, QWidget& drawing, std::string folder);
+    // Saves into `folder`; an empty one: takes none. The pictures show the window as the product
+    // has it, without `ribbon`.
+    StagePictures(const ISPMain& window, QWidget& drawing, QWidget& ribbon, std::string folder);
 
     // Saves what the window shows now as NN-name.png; blanks and signs in the name become "-".
     void Take(std::string_view name);
@@ -23,6 +24,7 @@ class StagePictures {
   private:
     const ISPMain& window_;
     QWidget& drawing_;
+    QWidget& ribbon_;
     const std::string folder_;
     int count_ = 0;
     bool middleTaken_ = false;

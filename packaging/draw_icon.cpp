@@ -1,4 +1,4 @@
-// draw-icon SVG SIZE PNG: draws a square icon of SIZE pixels.
+// draw-icon SIZE PNG SVG...: draws a square icon of SIZE pixels, each drawing over the one before.
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
@@ -6,15 +6,18 @@
 #include <QSvgRenderer>
 
 int main(int argc, char** argv) {
-    if (argc != 4) return 2;
-    QSvgRenderer drawing(QFile::decodeName(argv[1]));
-    const int size = QByteArray(argv[2]).toInt();
-    const QString path = QFile::decodeName(argv[3]);
+    if (argc < 4) return 2;
+    const int size = QByteArray(argv[1]).toInt();
+    const QString path = QFile::decodeName(argv[2]);
     QImage image(size, size, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    drawing.render(&painter);
+    for (int i = 3; i < argc; ++i) {
+        QSvgRenderer drawing(QFile::decodeName(argv[i]));
+        if (!drawing.isValid()) return 1;
+        drawing.render(&painter);
+    }
     painter.end();
     const bool saved = QDir().mkpath(QFileInfo(path).path()) && image.save(path, "PNG");
-    return drawing.isValid() && saved ? 0 : 1;
+    return saved ? 0 : 1;
 }

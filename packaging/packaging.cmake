@@ -6,8 +6,6 @@ set(made ${PROJECT_BINARY_DIR}/packaging)
 install(TARGETS keplin keplin-demo)
 install(FILES ${PROJECT_SOURCE_DIR}/samples/QDX-470-sample.HEX
         DESTINATION ${CMAKE_INSTALL_DATADIR}/keplin)
-install(FILES ${packaging}/keplin.desktop ${packaging}/keplin-demo.desktop
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${packaging}/example.keplin.keplin.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 
@@ -16,21 +14,65 @@ add_executable(draw-icon ${packaging}/draw_icon.cpp)
 target_link_libraries(draw-icon PRIVATE Qt6::Gui Qt6::Svg keplin_options)
 set(drawing_16 keplin-16)
 set(drawing_32 keplin-32)
+set(band_16 demo-band-16)
+
+# add_icon(SIZE NAME DRAWING...): the icon of that name, its drawings one over the other.
+function(add_icon size name)
+    list(TRANSFORM ARGN PREPEND ${packaging}/icons/ OUTPUT_VARIABLE drawings)
+    list(TRANSFORM drawings APPEND .svg)
+    set(icon ${made}/${size}/${name}.png)
+    add_custom_command(OUTPUT ${icon} COMMAND draw-icon ${size} ${icon} ${drawings}
+                       DEPENDS draw-icon ${drawings})
+    install(FILES ${icon}
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps)
+    set(icons ${icons} ${icon} PARENT_SCOPE)
+endfunction()
 foreach(size IN ITEMS 16 32 48 64 128 256)
     set(drawing keplin)
     if(DEFINED drawing_${size})
         set(drawing ${drawing_${size}})
     endif()
-    set(icon ${made}/${size}/keplin.png)
-    add_custom_command(OUTPUT ${icon}
-        COMMAND draw-icon ${packaging}/icons/${drawing}.svg ${size} ${icon}
-        DEPENDS draw-icon ${packaging}/icons/${drawing}.svg)
-    list(APPEND icons ${icon})
-    install(FILES ${icon}
-            DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps)
+    set(band demo-band)
+    if(DEFINED band_${size})
+        set(band ${band_${size}})
+    endif()
+    add_icon(${size} keplin ${drawing})
+    add_icon(${size} keplin-demo ${drawing} ${band})
 endforeach()
 install(FILES ${packaging}/icons/keplin.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+
+# The manual, as one page with its pictures. F1 finds it beside the programs, installed or built.
+set(manual_folder ${CMAKE_INSTALL_DATADIR}/keplin/manual)
+find_program(CMARK cmark-gfm)
+if(CMARK)
+    set(page ${PROJECT_BINARY_DIR}/share/keplin/manual/manual.html)
+    set(docs ${PROJECT_SOURCE_DIR}/docs)
+    file(GLOB pictures CONFIGURE_DEPENDS ${docs}/pictures/*.png)
+    add_custom_command(OUTPUT ${page}
+        COMMAND ${CMAKE_COMMAND} -D cmark=${CMARK} -D docs=${docs}
+                -D frame=${packaging}/manual.html.in -D page=${page} -P ${packaging}/manual.cmake
+        COMMAND ${CMAKE_COMMAND} -E copy_directory ${docs}/pictures
+                ${PROJECT_BINARY_DIR}/share/keplin/manual/pictures
+        DEPENDS ${docs}/manual.md ${docs}/serial-permission.md ${pictures}
+                ${packaging}/manual.html.in ${packaging}/manual.cmake
+        VERBATIM)
+    install(FILES ${page} DESTINATION ${manual_folder})
+    install(FILES ${pictures} DESTINATION ${manual_folder}/pictures)
+    # Where documents are looked for.
+    file(CREATE_LINK ../../keplin/manual ${made}/manual SYMBOLIC)
+    install(FILES ${made}/manual DESTINATION ${CMAKE_INSTALL_DOCDIR})
+else()
+    message(WARNING "cmark-gfm was not found: there will be no manual for F1 to open.")
+endif()
+
+# The desktop entries name the manual where it is installed, which only the installation knows.
+foreach(entry IN ITEMS keplin keplin-demo)
+    install(CODE "
+        set(manual \"\${CMAKE_INSTALL_PREFIX}/${manual_folder}/manual.html\")
+        configure_file(\"${packaging}/${entry}.desktop.in\" \"${made}/${entry}.desktop\" @ONLY)")
+    install(FILES ${made}/${entry}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+endforeach()
 
 # compress(FILE NAME DESTINATION): installs a file as Debian wants its documents, NAME.gz.
 function(compress file name destination)
@@ -45,9 +87,8 @@ endfunction()
 compress(${packaging}/keplin.1 keplin.1 ${CMAKE_INSTALL_MANDIR}/man1)
 compress(${packaging}/keplin-demo.1 keplin-demo.1 ${CMAKE_INSTALL_MANDIR}/man1)
 compress(${packaging}/changelog changelog ${CMAKE_INSTALL_DOCDIR})
-install(FILES ${packaging}/copyright ${PROJECT_SOURCE_DIR}/docs/serial-permission.md
-        DESTINATION ${CMAKE_INSTALL_DOCDIR})
-add_custom_target(packaging-files ALL DEPENDS ${icons} ${documents})
+install(FILES ${packaging}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+add_custom_target(packaging-files ALL DEPENDS ${icons} ${page} ${documents})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "Keplin maintainers <maintainers@keplin.example>")
@@ -59,7 +100,8 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS fonts-liberation)
+# Wayland alone needs Qt's part for it; xdg-utils opens the manual.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, qt6-wayland, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "\
 Keplin finds the serial port on which a QDX-470 controller answers in its
 in-system-programming mode, erases the controller's program memory, sends it

@@ -1,0 +1,69 @@
+#include "app/demo_mark.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QSvgRenderer>
+
+// Resources of a static library are known only after this.
+static void InitBands() {
+    Q_INIT_RESOURCE(demo);
+}
+
+namespace keplin {
+namespace {
+
+constexpr QColor kRed{0xB0, 0x00, 0x20};
+
+// The window's icon with the band of the demonstration's desktop entry, at each of its sizes.
+QIcon WithBand(const QIcon& icon) {
+    InitBands();
+    QIcon marked;
+    for (const QSize size : icon.availableSizes()) {
+        QPixmap pixmap = icon.pixmap(size, 1);
+        QPainter painter(&pixmap);
+        const bool small = size.width() <= 16;
+        QSvgRenderer(QString(small ? ":/demo-band-16.svg" : ":/demo-band.svg")).render(&painter);
+        painter.end();
+        marked.addPixmap(pixmap);
+    }
+    return marked;
+}
+
+// Across the upper right corner, over the window's own small icon and clear of everything else.
+class Ribbon final : public QWidget {
+  public:
+    explicit Ribbon(const QWidget& icon) : QWidget(icon.parentWidget()) {
+        const int side = icon.width() * 11 / 4;
+        setGeometry(parentWidget()->width() - side, 0, side, side);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAccessibleName("Demonstration: nothing is sent to a controller");
+        show();
+        raise();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(width() / 2.0, height() / 2.0);
+        painter.rotate(45);
+        const QRectF band(-width(), -width() / 8.0, 2 * width(), width() / 4.0);
+        painter.fillRect(band, kRed);
+        QFont letters = font();
+        letters.setBold(true);
+        letters.setPixelSize(width() / 8);
+        painter.setFont(letters);
+        painter.setPen(Qt::white);
+        painter.drawText(band, Qt::AlignCenter, "DEMONSTRATION");
+    }
+};
+
+}  // namespace
+
+QWidget& MarkAsDemonstration(QWidget& window) {
+    window.setWindowTitle("DEMONSTRATION - " + window.windowTitle().trimmed());
+    window.setWindowIcon(WithBand(window.windowIcon()));
+    return *new Ribbon(*window.findChild<QWidget*>("Image1"));
+}
+
+}  // namespace keplin

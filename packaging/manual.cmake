@@ -1,0 +1,33 @@
+# cmake -D cmark=PROGRAM -D docs=FOLDER -D frame=FILE -D page=FILE -P manual.cmake
+#
+# Writes docs/manual.md, and behind it what it refers to, as one page in a frame of HTML.
+function(as_html file result)
+    execute_process(COMMAND ${cmark} --extension table ${docs}/${file}
+                    OUTPUT_VARIABLE html COMMAND_ERROR_IS_FATAL ANY)
+    set(${result} "${html}" PARENT_SCOPE)
+endfunction()
+
+as_html(manual.md manual)
+as_html(serial-permission.md permission)
+# One heading above all; the other file's becomes a section, which the references go to.
+string(REPLACE "<h2>" "<h3>" permission "${permission}")
+string(REPLACE "</h2>" "</h3>" permission "${permission}")
+string(REPLACE "<h1>" "<h2>" permission "${permission}")
+string(REPLACE "</h1>" "</h2>" permission "${permission}")
+string(REPLACE "href=\"serial-permission.md\"" "href=\"#the-serial-devices-permission\"" manual
+       "${manual}")
+set(text "${manual}${permission}")
+
+# Sections can be referred to by their headings, and are listed at the top.
+string(REGEX MATCHALL "<h2>[^<]*</h2>" headings "${text}")
+foreach(heading IN LISTS headings)
+    string(REGEX REPLACE "</?h2>" "" name "${heading}")
+    string(TOLOWER "${name}" id)
+    string(REGEX REPLACE "[^a-z0-9 ]" "" id "${id}")
+    string(STRIP "${id}" id)
+    string(REPLACE " " "-" id "${id}")
+    string(REPLACE "${heading}" "<h2 id=\"${id}\">${name}</h2>" text "${text}")
+    string(APPEND contents "<li><a href=\"#${id}\">${name}</a></li>\n")
+endforeach()
+string(REPLACE "</h1>" "</h1>\n<ul class=\"contents\">\n${contents}</ul>" text "${text}")
+configure_file(${frame} ${page} @ONLY)
