@@ -14,6 +14,7 @@
 
 #include "device/posix_port.h"
 #include "device/prompt_close.h"
+#include "tests/support/open_port.h"
 #include "tests/support/pseudo_terminal.h"
 
 namespace keplin::test {
@@ -23,32 +24,6 @@ using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
 constexpr std::uint8_t kPing = 0x55;
-constexpr unsigned kNobody = 65534;
-
-std::int32_t OpenPort(PosixPort& port, std::int32_t number, std::int32_t speed = 38400) {
-    port.LineSpeed(speed);
-    port.Setting3(0);
-    port.PortNumber(number);
-    return port.Open();
-}
-
-// What opening this path gives to somebody else.
-std::int32_t OpenAnother(const fs::path& path, const fs::path& lockFolder = "/nowhere") {
-    PosixPort port([&](std::int32_t) { return path.string(); }, lockFolder);
-    return OpenPort(port, 1);
-}
-
-// The same without the privileges of root; the caller has them.
-std::int32_t OpenAsNobody(const fs::path& path, const fs::path& lockFolder = "/nowhere") {
-    const pid_t child = fork();
-    if (child == 0) {
-        const bool changed = setgid(kNobody) == 0 && setuid(kNobody) == 0;
-        _exit(changed ? OpenAnother(path, lockFolder) : 99);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
 
 class SerialAdapter : public ::testing::Test {
   protected:

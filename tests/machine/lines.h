@@ -1,0 +1,124 @@
+// The serial lines of the virtual machine: how their adapters are plugged in, and the simulated
+// controller at a line's far end.
+#pragma once
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <termios.h>
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "platform/unique_fd.h"
+#include "simulator/loader.h"
+#include "simulator/wire.h"
+
+namespace keplin::test {
+
+using namespace std::chrono_literals;
+
+// A raw line at 38400 bit/s, open beside whoever else has it: root is not kept out.
+inline UniqueFd OpenRaw(const std::string& path) {
+    UniqueFd line{::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)};
+    termios settings{};
+    EXPECT_EQ(tcgetattr(line.Get(), &settings), 0) << path;
+    cfmakeraw(&settings);
+    settings.c_cflag |= CLOCAL;
+    cfsetspeed(&settings, B38400);
+    tcsetattr(line.Get(), TCSANOW, &settings);
+    return line;
+}
+
+// Whether that is so before two seconds are over.
+template <typename Condition>
+bool Soon(Condition&& condition) {
+    const auto end = std::chrono::steady_clock::now() + 2s;
+    while (!condition() && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(5ms);
+    return condition();
+}
+
+inline bool Appears(const std::string& path) {
+    return Soon([&] { return std::filesystem::exists(path); });
+}
+
+// Takes the adapter of the line to ttyS2 out of its socket, or puts it back.
+inline void PlugIn(bool in) {
+    std::ofstream("/sys/bus/usb/devices/1-1/authorized") << in;
+}
+
+// An adapter whose far end, ttyGS0, is in this machine too: a modem (ttyACM0), or an FT232
+// (ttyUSB1) whose far end writes the two bytes of its state ahead of each packet. It takes no bytes
+// until that end is open. A device that the machine has anyway it leaves alone.
+class Gadget {
+  public:
+    explicit Gadget(const std::string& device) : made_(!std::filesystem::exists(device)) {
+        const bool modem = device == "/dev/ttyACM0";
+        if (made_) Run("insmod /run/g_serial.ko" + std::string(modem ? "" : kFt232));
+        EXPECT_TRUE(Appears(device));
+    }
+    ~Gadget() {
+        if (made_) Run("rmmod g_serial");
+    }
+    Gadget(const Gadget&) = delete;
+    Gadget& operator=(const Gadget&) = delete;
+
+  private:
+    static constexpr const char* kFt232 =
+        " use_acm=0 idVendor=0x0403 idProduct=0x6001 bcdDevice=0x0400";
+
+    static void Run(const std::string& command) { EXPECT_EQ(std::system(command.c_str()), 0); }
+
+    const bool made_;
+};
+
+// A controller on a line, at the line's pace.
+class Controller {
+  public:
+    explicit Controller(const std::string& farEnd)
+        : line_(OpenRaw(farEnd)), thread_([this] { Run(); }) {}
+    ~Controller() { Leave(); }
+    Controller(const Controller&) = delete;
+    Controller& operator=(const Controller&) = delete;
+
+    // What its memory holds when it leaves the line.
+    std::vector<std::uint8_t> Leave() {
+        leaving_ = true;
+        if (thread_.joinable()) thread_.join();
+        const auto cells = loader_.Memory().Cells();
+        return {cells.begin(), cells.end()};
+    }
+
+  private:
+    void Run() {
+        std::array<std::uint8_t, 512> heard{};
+        std::vector<std::uint8_t> said;
+        while (!leaving_) {
+            pollfd waiting{.fd = line_.Get(), .events = POLLIN, .revents = 0};
+            ::poll(&waiting, 1, wire_.NextEvent() ? 1 : 20);
+            const auto now = std::chrono::steady_clock::now().time_since_epoch();
+            const auto count = ::read(line_.Get(), heard.data(), heard.size());
+            if (count > 0) wire_.HostSends({heard.data(), static_cast<std::size_t>(count)}, now);
+            wire_.Advance(now);
+            wire_.TakeArrived(said);
+            [[maybe_unused]] const auto sent = ::write(line_.Get(), said.data(), said.size());
+        }
+    }
+
+    simulator::Loader loader_;
+    simulator::Wire wire_{loader_};
+    UniqueFd line_;
+    std::atomic<bool> leaving_ = false;
+    std::thread thread_;
+};
+
+}  // namespace keplin::test

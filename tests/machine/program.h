@@ -1,0 +1,77 @@
+// The program with its event loop and without its drawing, on a serial line of the virtual machine.
+#pragma once
+
+#include <poll.h>
+
+#include <QWidget>
+#include <chrono>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "device/port_list.h"
+#include "handlers/handlers.h"
+#include "ui/qt/qt_desktop.h"
+
+namespace keplin::test {
+
+// The desktop of a slow computer, on which the answer that is given 50 ms may take a second.
+class MachineDesktop : public qt::QtDesktop {
+  public:
+    using Milliseconds = std::chrono::milliseconds;
+    static constexpr Milliseconds kAnswerTime{50};
+
+    MachineDesktop(QWidget& window, PosixPort& port)
+        : QtDesktop(window, {.awaitsByte = [&port] { return port.TakeIdle(); },
+                             .hungUp = [&port] { port.CheckLine(); },
+                             .openFile = [this](const auto&) { return File; },
+                             .beforeEnd = {}}) {
+        port.OnLineChange = [this](int line) { WatchLine(line_.fd = line); };
+    }
+
+    void Sleep(Milliseconds duration) override {
+        if (OnSleep) OnSleep(duration);
+        const bool answer = duration == kAnswerTime;
+        QtDesktop::Sleep(answer ? duration : duration / Hurry);
+        if (answer && line_.fd >= 0) ::poll(&line_, 1, 1000);
+    }
+
+    std::string File;  // chosen in the open-file dialog
+    int Hurry = 10;    // the pauses are that many times shorter
+    std::function<void(Milliseconds)> OnSleep;
+
+  private:
+    pollfd line_{.fd = -1, .events = POLLIN, .revents = 0};
+};
+
+struct Program {
+    explicit Program(DevicePaths ports = NumberedComputerPorts()) : port(std::move(ports)) {
+        handlers.Main();
+    }
+    ~Program() { port.Close(); }
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    // Whether a port was found.
+    bool ReachProgramPage(const std::string& file) {
+        desktop.File = file;
+        window.Next_1.Press();
+        window.cmdPortTest.Press();
+        window.Next_2.Press();
+        return window.PicProgram.Visible;
+    }
+
+    // Whether the window says that the update is complete.
+    bool Update() {
+        window.Command1.Press();
+        return window.Frame2.Caption.Get() == "Update Complete";
+    }
+
+    ISPMain window;
+    PosixPort port;
+    QWidget drawing;
+    MachineDesktop desktop{drawing, port};
+    Handlers handlers{window, port, desktop};
+};
+
+}  // namespace keplin::test
