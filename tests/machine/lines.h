@@ -61,13 +61,16 @@ inline void PlugIn(bool in) {
 // until that end is open. A device that the machine has anyway it leaves alone.
 class Gadget {
   public:
-    explicit Gadget(const std::string& device) : made_(!std::filesystem::exists(device)) {
+    explicit Gadget(const std::string& device)
+        : device_(device), made_(!std::filesystem::exists(device)) {
         const bool modem = device == "/dev/ttyACM0";
         if (made_) Run("insmod /run/g_serial.ko" + std::string(modem ? "" : kFt232));
         EXPECT_TRUE(Appears(device));
     }
     ~Gadget() {
-        if (made_) Run("rmmod g_serial");
+        if (!made_) return;
+        Run("rmmod g_serial");
+        EXPECT_TRUE(Soon([this] { return !std::filesystem::exists(device_); }));
     }
     Gadget(const Gadget&) = delete;
     Gadget& operator=(const Gadget&) = delete;
@@ -78,6 +81,7 @@ class Gadget {
 
     static void Run(const std::string& command) { EXPECT_EQ(std::system(command.c_str()), 0); }
 
+    const std::string device_;
     const bool made_;
 };
 

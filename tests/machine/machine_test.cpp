@@ -12,13 +12,10 @@
 #include "tests/machine/lines.h"
 #include "tests/machine/program.h"
 #include "tests/support/open_port.h"
-#include "tests/support/temporary_file.h"
+#include "tests/support/rig.h"
 
 namespace keplin::test {
 namespace {
-
-constexpr std::string_view kFewLines =
-    ":0400000001020304F2\r\n:022000005AA5DF\r\n:017FFF00423F\r\n:00000001FF\r\n";
 
 TEST(Machine, ListsItsPortsInOrderAndNoPhantoms) {
     ASSERT_TRUE(Appears("/dev/ttyS3")) << "a name without hardware";
@@ -38,6 +35,7 @@ class EachDriver : public testing::TestWithParam<const char*> {
 
 TEST_P(EachDriver, KeepsOthersOutUntilClosed) {
     ASSERT_EQ(chmod(device_.c_str(), 0666), 0);
+    const UniqueFd stillOpen = OpenRaw(device_);
     PosixPort port(Only(device_));
     ASSERT_GT(OpenPort(port, 1), 0);
     EXPECT_EQ(OpenAnother(device_), 0);
@@ -65,7 +63,7 @@ TEST_P(EachDriver, UpdatesWhateverTheLineWasSetTo) {
     std::this_thread::sleep_for(200ms);
 
     Controller controller(far);
-    const TemporaryFile file(kFewLines);
+    const TemporaryFile file(kSmallFile);
     Program program(Only(device_));
     ASSERT_TRUE(program.ReachProgramPage(file.Path()));
     tcgetattr(former.Get(), &settings);
@@ -159,7 +157,7 @@ TEST_P(Replug, ASecondTryCompletes) {
     const bool newName = std::get<1>(GetParam());
     const bool inAPause = place == "InAPause";
     Controller controller("/dev/ttyS2");
-    const TemporaryFile file(kFewLines);
+    const TemporaryFile file(kSmallFile);
     UniqueFd another;
     Program program;
     ASSERT_TRUE(program.ReachProgramPage(file.Path()));
