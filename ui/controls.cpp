@@ -1,6 +1,8 @@
 #include "ui/controls.h"
 
 #include <algorithm>
+#include <cmath>
+#include <string>
 #include <utility>
 
 namespace keplin {
@@ -77,6 +79,16 @@ ProgressBar::ProgressBar(ControlList& list, const Control* container, std::strin
 float ProgressBar::Done() const {
     const float range = Max - Min;
     return range > 0 ? std::clamp((Value - Min) / range, 0.0F, 1.0F) : 0.0F;
+}
+
+std::string ProgressBar::DoneText() const {
+    if (Counts == Unit::Percent) return std::to_string(std::lround(100 * Done())) + " %";
+    const auto lines = [](float count) {
+        std::string digits = std::to_string(std::lround(count));
+        if (digits.size() > 3) digits.insert(digits.size() - 3, ",");
+        return digits;
+    };
+    return "line " + lines(std::min(Value + 1, Max.Get())) + " of " + lines(Max);
 }
 
 Panel::Panel(ControlList& list, const Control& bar, std::string name, std::string description,

@@ -122,6 +122,9 @@ class Shape : public Control {
 // shows the nearest it can, and an empty range as an empty bar.
 class ProgressBar : public Control {
   public:
+    // What the range counts: hundredths, or an update's lines from 0.
+    enum class Unit { Percent, Lines };
+
     // `description` tells a screen reader what the bar measures.
     ProgressBar(ControlList& list, const Control* container, std::string name,
                 std::string description, Place place);
@@ -130,7 +133,11 @@ class ProgressBar : public Control {
     // The part of the range that is done, 0 to 1.
     [[nodiscard]] float Done() const;
 
+    // How far that is, in words: "line 512 of 4,000" or "33 %".
+    [[nodiscard]] std::string DoneText() const;
+
     const std::string Description;
+    Unit Counts = Unit::Percent;
     Property<float> Min;
     Property<float> Max;
     Property<float> Value;

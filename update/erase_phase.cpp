@@ -8,6 +8,7 @@ bool EraseDevice(ISPMain& window, DeviceExchange& controller, Desktop& desktop) 
     ProgressBar& ProgressBar1 = window.ProgressBar1;
 
     if (!controller.PingDevice()) return false;
+    ProgressBar1.Counts = ProgressBar::Unit::Percent;
     ProgressBar1.Min = 0;
     ProgressBar1.Max = 100;
     lblPrgm.Visible = true;

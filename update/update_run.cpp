@@ -61,6 +61,7 @@ void UpdateRun::ShowAllErased() {
     window_.ProgressBar1.Visible = false;
     window_.lblPrgm.Caption = "All Blocks Erased";
     desktop_.Yield();
+    window_.ProgressBar1.Counts = ProgressBar::Unit::Lines;
     window_.ProgressBar1.Min = 0;
     window_.ProgressBar1.Max = static_cast<float>(file_.LineCount);
     window_.ProgressBar1.Value = 0;

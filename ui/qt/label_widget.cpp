@@ -1,7 +1,5 @@
 #include "ui/qt/label_widget.h"
 
-#include <QAccessible>
-
 #include "ui/qt/font_choice.h"
 #include "ui/qt/text_room.h"
 
@@ -22,7 +20,6 @@ void LabelWidget::Apply(Aspect aspect) {
     ApplyCommon(*this, label_, look_.scale, aspect);
     if (aspect == Aspect::Caption) ApplyCaption();
     Refit();
-    if (aspect == Aspect::Caption || aspect == Aspect::Visible) Announce();
 }
 
 void LabelWidget::Refit() {
@@ -33,13 +30,6 @@ void LabelWidget::Refit() {
 void LabelWidget::ApplyCaption() {
     setText(ToQt(label_.Caption));
     setAccessibleName(text().isEmpty() ? accessibleDescription() : text());
-}
-
-// A screen reader is told of each text that the technician may be waiting for.
-void LabelWidget::Announce() {
-    if (accessibleDescription().isEmpty() || text().isEmpty() || !isVisible()) return;
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
 }
 
 // A page keeps its colour in a dark theme, so the texts on it keep theirs.

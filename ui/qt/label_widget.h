@@ -18,7 +18,6 @@ class LabelWidget final : public QLabel, public Drawn {
 
   private:
     void ApplyCaption();
-    void Announce();
     [[nodiscard]] QColor TextColour() const;
 
     const Label& label_;

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <utility>
 
+#include "ui/qt/accessible.h"
 #include "ui/qt/font_choice.h"
 #include "ui/qt/picture_widget.h"
 #include "ui/qt/widget_maker.h"
@@ -24,7 +25,9 @@ MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
       model_(model),
       look_{model.Window, model.Controls(), Scale(logicalDpiY()), {}},
       focus_(*this),
-      guard_(model.Window, std::move(clock)) {
+      guard_(model.Window, std::move(clock)),
+      speaker_(*this, model) {
+    InstallAccessible();
     look_.font = ChooseFont(look_);
     setFont(look_.font);
     setWindowIcon(ProgramIcon());
@@ -55,10 +58,12 @@ void MainWindow::Changed(const Control& control, Aspect aspect) {
     const bool reach = aspect == Aspect::Visible || aspect == Aspect::Enabled;
     if (reach) focus_.BeforeChange();
     Apply(control, aspect);
-    if (!reach) return;
-    focus_.AfterChange();
-    guard_.AfterChange();
-    if (EndsAWait(model_, control, aspect) && !isActiveWindow()) CallForAttention();
+    if (reach) {
+        focus_.AfterChange();
+        guard_.AfterChange();
+        if (EndsAWait(model_, control, aspect) && !isActiveWindow()) CallForAttention();
+    }
+    speaker_.Changed(control, aspect);
 }
 
 // The desktop marks the window until the technician turns to it. Qt passes no alert on to a Wayland

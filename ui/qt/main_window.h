@@ -8,6 +8,7 @@
 #include "ui/press_guard.h"
 #include "ui/qt/drawn.h"
 #include "ui/qt/focus_keeper.h"
+#include "ui/qt/speaker.h"
 
 namespace keplin::qt {
 
@@ -35,6 +36,7 @@ class MainWindow : public QWidget, public Observer {
     Look look_;
     FocusKeeper focus_;
     PressGuard guard_;
+    Speaker speaker_;
     std::unordered_map<const Control*, Drawn*> drawn_;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/qt/progress_bar_widget.h"
 
+#include <QEvent>
 #include <cmath>
 
 namespace keplin::qt {
@@ -27,6 +28,12 @@ void ProgressBarWidget::Apply(Aspect aspect) {
         if (aspect == Aspect::Visible) pace_.ShowNow();
         ApplyCommon(*this, bar_, look_.scale, aspect);
     }
+}
+
+// The tool tip is put into words only when it is asked for.
+bool ProgressBarWidget::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) setToolTip(DoneText());
+    return QProgressBar::event(event);
 }
 
 void ProgressBarWidget::ShowDone() {

@@ -13,6 +13,12 @@ class ProgressBarWidget final : public QProgressBar, public Drawn {
     ProgressBarWidget(const ProgressBar& bar, const Look& look, QWidget* parent);
     void Apply(Aspect aspect) override;
 
+    [[nodiscard]] const ProgressBar& Model() const { return bar_; }
+    [[nodiscard]] QString DoneText() const { return ToQt(bar_.DoneText()); }
+
+  protected:
+    bool event(QEvent* event) override;
+
   private:
     void ShowDone();
 

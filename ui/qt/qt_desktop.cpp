@@ -17,6 +17,7 @@
 #include <thread>
 #include <utility>
 
+#include "ui/qt/accessibility_bus.h"
 #include "ui/qt/open_dialog.h"
 
 namespace keplin::qt {
@@ -53,6 +54,7 @@ void QtDesktop::Sleep(std::chrono::milliseconds duration) {
     using std::chrono::steady_clock;
     const auto end = steady_clock::now() + duration;
     ShowAllThatWasSet(window_);
+    AnswerScreenReaderUntil(end - kLateness);
     std::this_thread::sleep_until(end - kLateness);
     while (steady_clock::now() < end) {
     }

@@ -1,0 +1,83 @@
+#include "ui/spoken_texts.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace keplin {
+namespace {
+
+// A run that stops may leave every text as it was: only the eye is told, by the blue block that is
+// gone and by Close, which can be pressed again.
+constexpr std::string_view kRunStopped = "The update has stopped.";
+
+// A text that is read and not pressed; a button's is spoken with the focus.
+class TextOf : public ControlVisitor {
+  public:
+    explicit TextOf(const Control& control) { control.Accept(*this); }
+
+    void Visit(const Label& label) override { Text = label.Caption.Get(); }
+    void Visit(const Frame& frame) override { Text = frame.Caption.Get(); }
+    void Visit(const Panel& panel) override { Text = panel.Text.Get(); }
+    void Visit(const Form&) override {}
+    void Visit(const Page&) override {}
+    void Visit(const Button&) override {}
+    void Visit(const Picture&) override {}
+    void Visit(const Shape&) override {}
+    void Visit(const ProgressBar&) override {}
+    void Visit(const StatusBar&) override {}
+    void Visit(const Timer&) override {}
+
+    std::string_view Text;
+};
+
+// Sentence by sentence, so that the voice pauses between two texts.
+void Append(std::string& message, std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return;
+    if (!message.empty()) message += message.back() == '.' ? " " : ". ";
+    message += text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+}  // namespace
+
+bool SpokenTexts::Changed(const Control& control, Aspect aspect) {
+    if (aspect == Aspect::Caption || aspect == Aspect::Visible) Add(control);
+    if (aspect == Aspect::Visible) {
+        // Labels that come with their page; what a frame holds is read when the focus enters it.
+        for (const Control* other : window_.Controls()) {
+            if (other->Container == &control && dynamic_cast<const Label*>(other)) Add(*other);
+        }
+    }
+    const bool closeAgain =
+        &control == &window_.cmdExit && aspect == Aspect::Enabled && window_.cmdExit.Enabled;
+    if (closeAgain && window_.Command1.Shown()) fresh_.runStopped = true;
+    return fresh_.runStopped || !fresh_.texts.empty();
+}
+
+std::string SpokenTexts::Take() {
+    if (!fresh_.runStopped && fresh_.texts.empty()) return "";
+    taken_ = std::exchange(fresh_, {});
+    return Latest();
+}
+
+std::string SpokenTexts::Latest() const {
+    std::string message;
+    for (const Control* control : taken_.texts) {
+        if (CanBeRead(*control)) Append(message, TextOf(*control).Text);
+    }
+    if (taken_.runStopped && window_.Command1.Shown()) Append(message, kRunStopped);
+    return message;
+}
+
+bool SpokenTexts::CanBeRead(const Control& control) const {
+    return window_.Window.Visible && control.Shown() && !TextOf(control).Text.empty();
+}
+
+void SpokenTexts::Add(const Control& control) {
+    auto& texts = fresh_.texts;
+    const bool known = std::find(texts.begin(), texts.end(), &control) != texts.end();
+    if (!known && CanBeRead(control)) texts.push_back(&control);
+}
+
+}  // namespace keplin

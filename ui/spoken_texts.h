@@ -1,0 +1,40 @@
+// Which changes of the window are spoken: what a technician who does not see it would miss.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "ui/isp_main.h"
+
+namespace keplin {
+
+class SpokenTexts {
+  public:
+    explicit SpokenTexts(const ISPMain& window) : window_(window) {}
+
+    // Takes note of a change. True when there is something new to speak.
+    bool Changed(const Control& control, Aspect aspect);
+
+    // All that is new since the last call, as one message; a text that changed twice as it is now.
+    // "" when nothing is new.
+    [[nodiscard]] std::string Take();
+
+    // What was taken last, as far as it can still be seen.
+    [[nodiscard]] std::string Latest() const;
+
+  private:
+    // Texts in the order in which they came.
+    struct News {
+        std::vector<const Control*> texts;
+        bool runStopped = false;
+    };
+
+    [[nodiscard]] bool CanBeRead(const Control& control) const;
+    void Add(const Control& control);
+
+    const ISPMain& window_;
+    News fresh_;
+    News taken_;
+};
+
+}  // namespace keplin
