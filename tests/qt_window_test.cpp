@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QProgressBar>
 #include <QScreen>
 #include <chrono>
@@ -228,6 +229,11 @@ TEST_F(QtWindow, AScreenReaderFindsANameOnEveryControl) {
         }
     }
     EXPECT_EQ(read(model.ProgressBar1), "Progress of the update");
+    model.ProgressBar1.Value = 33;
+    EXPECT_EQ(read(model.ProgressBar1, QAccessible::Value), "33 %");
+    QHelpEvent hover(QEvent::ToolTip, {}, {});
+    QCoreApplication::sendEvent(Find(model.ProgressBar1), &hover);
+    EXPECT_EQ(Find(model.ProgressBar1)->toolTip(), "33 %");
     EXPECT_EQ(read(model.lblResults), "Result of the port test");
     model.lblResults.Caption = "Query to Port 1";
     model.StatusBar2.Panels(3).Text = "Checksum: A";

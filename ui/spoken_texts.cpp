@@ -49,9 +49,10 @@ bool SpokenTexts::Changed(const Control& control, Aspect aspect) {
             if (other->Container == &control && dynamic_cast<const Label*>(other)) Add(*other);
         }
     }
-    const bool closeAgain =
-        &control == &window_.cmdExit && aspect == Aspect::Enabled && window_.cmdExit.Enabled;
-    if (closeAgain && window_.Command1.Shown()) fresh_.runStopped = true;
+    if (&control == &window_.cmdExit && aspect == Aspect::Enabled && RunStopped()) {
+        Add(window_.lblPrgm);
+        fresh_.runStopped = true;
+    }
     return fresh_.runStopped || !fresh_.texts.empty();
 }
 
@@ -66,8 +67,12 @@ std::string SpokenTexts::Latest() const {
     for (const Control* control : taken_.texts) {
         if (CanBeRead(*control)) Append(message, TextOf(*control).Text);
     }
-    if (taken_.runStopped && window_.Command1.Shown()) Append(message, kRunStopped);
+    if (taken_.runStopped && RunStopped()) Append(message, kRunStopped);
     return message;
+}
+
+bool SpokenTexts::RunStopped() const {
+    return window_.cmdExit.Enabled && window_.Command1.Shown();
 }
 
 bool SpokenTexts::CanBeRead(const Control& control) const {

@@ -29,6 +29,8 @@ class SpokenTexts {
         bool runStopped = false;
     };
 
+    // No run is under way, and the page still offers one. Right after a run: it did not complete.
+    [[nodiscard]] bool RunStopped() const;
     [[nodiscard]] bool CanBeRead(const Control& control) const;
     void Add(const Control& control);
 
