@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTimer>
+#include <QTreeView>
 #include <array>
 #include <chrono>
 #include <functional>
@@ -93,17 +94,79 @@ TEST_F(QtDesktopTest, WhatWasSetIsPaintedAndHandedOverBeforeASleepWhichHandlesNo
     EXPECT_EQ(happened, (std::vector<std::string>{"painted", "handed over"}));
 }
 
-TEST_F(QtDesktopTest, ANameOfNoFileCanBeTypedAndNoListOfNamesStaysBehind) {
-    QTimer::singleShot(0, &window, [&] {
-        const auto* dialog = window.findChild<QFileDialog*>();
-        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
-        EXPECT_EQ(name->completer(), nullptr);
-        EXPECT_EQ(dialog->selectedNameFilter(), "QDX-470 Files (*.HEX)");
-        name->setText("missing.HEX");
-        emit name->returnPressed();
+// The open-file dialog, in a folder of its own.
+class QtDialogTest : public QtWindow {
+  protected:
+    // What comes of the dialog when `act` is done in it; cancelled if it still stands then.
+    template <typename Act>
+    std::optional<std::string> Ask(Act&& act) {
+        QTimer::singleShot(0, &window, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QApplication::setActiveWindow(dialog);
+            act(*dialog);
+            if (dialog->isVisible()) dialog->reject();
+        });
+        return desktop.ShowOpen({"QDX-470 Files (*.HEX)|*.HEX", "Select", Path(""), true});
+    }
+
+    std::optional<std::string> Type(const std::string& text) {
+        return Ask([&](QFileDialog& dialog) {
+            auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+            EXPECT_EQ(name->completer(), nullptr);
+            EXPECT_TRUE(Until([&] { return name->hasFocus() && NamesIn(dialog) == "a"; }));
+            const auto press = [&](int key, const QString& letter) {
+                QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, letter);
+                QCoreApplication::sendEvent(name, &event);
+                desktop.Yield();
+            };
+            for (const char letter : text)
+                press(0, QString(letter));
+            press(Qt::Key_Return, "\r");
+        });
+    }
+
+    static std::string NamesIn(const QFileDialog& dialog) {
+        const auto* list = dialog.findChild<QTreeView*>("treeView");
+        QStringList names;
+        for (int i = 0; i < list->model()->rowCount(list->rootIndex()); ++i)
+            names << list->model()->index(i, 0, list->rootIndex()).data().toString();
+        return names.join(' ').toStdString();
+    }
+
+    [[nodiscard]] std::string Path(const std::string& name) const {
+        return folder.filePath(QString::fromStdString(name)).toStdString();
+    }
+
+    void MakeFile(const std::string& name, int daysAgo) {
+        QFile file(QString::fromStdString(Path(name)));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        const QDateTime date = QDateTime::currentDateTime().addDays(-daysAgo);
+        ASSERT_TRUE(file.setFileTime(date, QFile::FileModificationTime));
+    }
+
+    const QTemporaryDir folder;
+};
+
+TEST_F(QtDialogTest, WhatIsTypedCountsWithOneReturnWhetherOrNotThereIsSuchAFile) {
+    QDir(folder.path()).mkdir("a");
+    MakeFile("a/there.HEX", 0);
+    for (const char* name : {"missing.HEX", "a/missing.HEX", "a/there.HEX"}) {
+        EXPECT_EQ(Type(name), Path(name));
+        EXPECT_EQ(Type(Path(name)), Path(name));
+    }
+    EXPECT_EQ(Type(Path("a")), std::nullopt);
+}
+
+TEST_F(QtDialogTest, ShowsTheNewestFileFirstInCapitalsOrNot) {
+    int age = 0;
+    for (const char* name : {"3.txt", "5.HEX", "2.hex", "6.HEX", "1.HEX", "7.hex", "4.HEX"})
+        MakeFile(name, ++age);
+    Ask([&](QFileDialog& dialog) {
+        const char* newestFirst = "5.HEX 2.hex 6.HEX 1.HEX 7.hex 4.HEX";
+        EXPECT_TRUE(Until([&] { return NamesIn(dialog) == newestFirst; })) << NamesIn(dialog);
+        EXPECT_EQ(dialog.selectedNameFilter(), "QDX-470 Files (*.HEX)");
+        EXPECT_TRUE(dialog.sidebarUrls().contains(QUrl::fromLocalFile(QDir::homePath())));
     });
-    const auto answer = desktop.ShowOpen({"QDX-470 Files (*.HEX)|*.HEX", "Select", "/tmp", true});
-    EXPECT_EQ(answer, "/tmp/missing.HEX");
 }
 
 TEST_F(QtDesktopTest, WhereTheWorkingDirectoryWasDeletedHomeStandsInForIt) {

@@ -8,6 +8,7 @@
 #include <QHelpEvent>
 #include <QProgressBar>
 #include <QScreen>
+#include <QTemporaryDir>
 #include <chrono>
 
 #include "tests/support/text_fit.h"
@@ -249,6 +250,8 @@ TEST_F(QtWindow, AScreenReaderFindsANameOnEveryControl) {
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir settings;  // nobody's own, neither read nor written
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

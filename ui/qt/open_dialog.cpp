@@ -1,12 +1,108 @@
 #include "ui/qt/open_dialog.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileSystemWatcher>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QStyle>
+#include <QTreeView>
+#include <QUrl>
 
 #include "ui/qt/look.h"
 
 namespace keplin::qt {
+namespace {
+
+enum Column { kName, kSize, kType, kDate };  // as Qt's dialog numbers them
+
+// Where desktops mount what is plugged in, outermost folder first.
+QStringList MountFolders() {
+    const QString user = qEnvironmentVariable("USER");
+    return {"/media", "/media/" + user, "/run/media", "/run/media/" + user};
+}
+
+// The places at which an update file may have arrived.
+QList<QUrl> Places() {
+    QStringList folders;
+    for (const auto place : {QStandardPaths::DownloadLocation, QStandardPaths::DesktopLocation,
+                             QStandardPaths::DocumentsLocation, QStandardPaths::HomeLocation}) {
+        folders << QStandardPaths::writableLocation(place);
+    }
+    const QStringList mounts = MountFolders();
+    for (const QString& parent : {mounts[1], mounts[3]}) {
+        for (const QFileInfo& mount : QDir(parent).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot))
+            folders << mount.filePath();
+    }
+    folders.removeDuplicates();
+    QList<QUrl> places;
+    for (const QString& folder : folders) {
+        if (QFileInfo(folder).isDir()) places << QUrl::fromLocalFile(folder);
+    }
+    return places << QUrl("file:");  // the whole computer
+}
+
+// A stick that is plugged in while the dialog stands open appears.
+void ShowPlaces(QFileDialog& dialog) {
+    const int small = dialog.style()->pixelMetric(QStyle::PM_SmallIconSize);
+    auto* bar = dialog.findChild<QListView*>("sidebar");
+    const auto show = [&dialog, bar] {
+        dialog.setSidebarUrls(Places());
+        if (bar != nullptr) bar->setMinimumWidth(bar->sizeHintForColumn(0) + 2 * bar->frameWidth());
+    };
+    if (bar != nullptr) bar->setIconSize(QSize(small, small));
+    auto* watcher = new QFileSystemWatcher(&dialog);
+    const auto watch = [watcher] {
+        for (const QString& folder : MountFolders()) {
+            if (QFileInfo(folder).isDir()) watcher->addPath(folder);
+        }
+    };
+    QObject::connect(watcher, &QFileSystemWatcher::directoryChanged, &dialog, [=] {
+        watch();
+        show();
+    });
+    watch();
+    show();
+}
+
+// Names and dates whole, the newest file on top; that they are all of one type is known.
+void ShowNewestFirst(QFileDialog& dialog) {
+    dialog.setViewMode(QFileDialog::Detail);
+    auto* list = dialog.findChild<QTreeView*>("treeView");
+    if (list == nullptr) return;
+    list->header()->setSectionResizeMode(kName, QHeaderView::Stretch);
+    list->header()->setSectionResizeMode(kDate, QHeaderView::ResizeToContents);
+    list->setColumnHidden(kType, true);
+    list->sortByColumn(kDate, Qt::DescendingOrder);
+}
+
+// What is typed counts, as it stands. Names to complete would stay on the screen after Enter and
+// keep the keyboard from the window; a folder that was marked because the path began like it would
+// be opened in place of the file.
+void TakeWhatIsTyped(QFileDialog& dialog) {
+    auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+    auto* list = dialog.findChild<QTreeView*>("treeView");
+    if (edit == nullptr || list == nullptr) return;
+    edit->setCompleter(nullptr);
+    QObject::connect(edit, &QLineEdit::textChanged, list, [edit, list] {
+        if (edit->hasFocus()) list->clearSelection();
+    });
+    QObject::connect(edit, &QLineEdit::returnPressed, &dialog, [edit, &dialog] {
+        if (dialog.isVisible()) edit->clear();  // it named a folder, which is shown now
+    });
+}
+
+// The dialog gets a frame like the window's.
+void FitToScreen(QFileDialog& dialog, const QWidget& window) {
+    const QSize frame = window.frameGeometry().size() - window.size();
+    dialog.resize(dialog.sizeHint().boundedTo(window.screen()->availableSize() - frame));
+}
+
+}  // namespace
 
 // The dialog belongs to the window and is not deleted here: it would write what it remembers of
 // itself into a file of settings. Qt's own dialog matches names in capitals or not.
@@ -17,9 +113,10 @@ std::optional<std::string> AskForFile(QWidget& window, const OpenFileRequest& re
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setNameFilter(ToQt(request.filter.substr(0, request.filter.find('|'))));
     dialog->setDirectory(QFile::decodeName(request.initialDirectory.c_str()));
-    // Names to complete would stay on the screen after Enter and keep the keyboard from the window.
-    for (QLineEdit* edit : dialog->findChildren<QLineEdit*>())
-        edit->setCompleter(nullptr);
+    ShowPlaces(*dialog);
+    ShowNewestFirst(*dialog);
+    FitToScreen(*dialog, window);
+    TakeWhatIsTyped(*dialog);
     if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty()) return {};
     return QFile::encodeName(dialog->selectedFiles().front()).toStdString();
 }
