@@ -8,8 +8,6 @@
 namespace keplin {
 namespace {
 
-constexpr float kStartHeight = 5460;  // twips, title bar and frame included
-
 // A flag that is up for as long as this exists.
 class Raised {
   public:
@@ -70,7 +68,7 @@ void Handlers::Main() {
     ShowPage(window_.PicGettingStarted);
     window_.PicSetup.Visible = false;
     window_.PicProgram.Visible = false;
-    window_.Window.Height = kStartHeight;
+    window_.Window.Height = kShownHeight;
     window_.Window.Visible = true;
 }
 

@@ -248,10 +248,18 @@ TEST_F(QtWindow, AScreenReaderFindsANameOnEveryControl) {
 }  // namespace
 }  // namespace keplin::test
 
+// No settings but its own, and a screen as wide and high as SCREEN says.
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir settings;  // nobody's own, neither read nor written
+    const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
+    const QStringList size = qEnvironmentVariable("SCREEN", "2600x1800").split('x');
+    QFile screen(settings.filePath("screen.json"));
+    if (!screen.open(QFile::WriteOnly)) return 2;
+    const char* json = R"({"screens": [{"name": "", "x": 0, "y": 0, "width": %1, "height": %2,
+                           "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+    screen.write(QString(json).arg(size[0], size[1]).toUtf8());
+    screen.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screen.fileName()));
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -13,6 +13,9 @@ namespace keplin {
 inline constexpr float kShownPageLeft = 120;
 inline constexpr float kShownPageTop = 840;
 
+// The window's outer height from the start on, in twips; below it lies only what is never shown.
+inline constexpr float kShownHeight = 5460;
+
 class ISPMain : public ControlList {
   public:
     ISPMain();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
+#include <algorithm>
 #include <utility>
 
 #include "ui/qt/accessible.h"
@@ -18,12 +19,23 @@ constexpr Qt::WindowFlags kFrame = Qt::Window | Qt::CustomizeWindowHint | Qt::Wi
                                    Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                    Qt::WindowCloseButtonHint;
 
+// Pixels that the desktop's frame may take of the screen: its sides together, its title bar.
+constexpr QSize kFrameRoom{4, 40};
+
+// As many dots per inch as the desktop has, or fewer on a screen that could not show all buttons.
+double DotsPerInch(const QWidget& window, const Form& form) {
+    const QSize room = window.screen()->availableSize() - kFrameRoom;
+    const float height = form.ClientHeight() - form.Height + kShownHeight;
+    return std::min({double(window.logicalDpiY()), Scale::Fitting(form.Width, room.width()),
+                     Scale::Fitting(height, room.height())});
+}
+
 }  // namespace
 
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     : QWidget(nullptr, kFrame),
       model_(model),
-      look_{model.Window, model.Controls(), Scale(logicalDpiY()), {}},
+      look_{model.Window, model.Controls(), Scale(DotsPerInch(*this, model.Window)), {}},
       focus_(*this),
       guard_(model.Window, std::move(clock)),
       speaker_(*this, model) {

@@ -22,7 +22,7 @@ enum Column { kName, kSize, kType, kDate };  // as Qt's dialog numbers them
 
 // Where desktops mount what is plugged in, outermost folder first.
 QStringList MountFolders() {
-    const QString user = qEnvironmentVariable("USER");
+    const QString user = QFileInfo(QDir::homePath()).owner();
     return {"/media", "/media/" + user, "/run/media", "/run/media/" + user};
 }
 

@@ -9,6 +9,10 @@ constexpr double kTwipsPerInch = 1440;
 
 }  // namespace
 
+double Scale::Fitting(float twips, int pixels) {
+    return pixels * kTwipsPerInch / static_cast<double>(twips);
+}
+
 int Scale::Pixels(float twips) const {
     return static_cast<int>(std::lround(static_cast<double>(twips) * dpi_ / kTwipsPerInch));
 }

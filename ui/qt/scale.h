@@ -21,6 +21,9 @@ class Scale {
     // Where a control stands in its container.
     [[nodiscard]] QRect PlaceOf(const Control& control) const;
 
+    // The largest dots per inch at which `twips` are at most `pixels`.
+    static double Fitting(float twips, int pixels);
+
   private:
     double dpi_;
 };
