@@ -2,11 +2,10 @@
 
 #include <QIcon>
 #include <QPainter>
-#include <QSvgRenderer>
 
 // Resources of a static library are known only after this.
-static void InitBands() {
-    Q_INIT_RESOURCE(demo);
+static void InitIcon() {
+    Q_INIT_RESOURCE(demo_icon);
 }
 
 namespace keplin {
@@ -14,19 +13,14 @@ namespace {
 
 constexpr QColor kRed{0xB0, 0x00, 0x20};
 
-// The window's icon with the band of the demonstration's desktop entry, at each of its sizes.
-QIcon WithBand(const QIcon& icon) {
-    InitBands();
-    QIcon marked;
-    for (const QSize size : icon.availableSizes()) {
-        QPixmap pixmap = icon.pixmap(size, 1);
-        QPainter painter(&pixmap);
-        const bool small = size.width() <= 16;
-        QSvgRenderer(QString(small ? ":/demo-band-16.svg" : ":/demo-band.svg")).render(&painter);
-        painter.end();
-        marked.addPixmap(pixmap);
-    }
-    return marked;
+// That of the demonstration's desktop entry.
+QIcon DemoIcon() {
+    InitIcon();
+    QIcon icon;
+    for (const char* png :
+         {":/keplin-demo-16.png", ":/keplin-demo-32.png", ":/keplin-demo-128.png"})
+        icon.addFile(png);
+    return icon;
 }
 
 // Across the upper right corner, over the window's own small icon and clear of everything else.
@@ -62,7 +56,7 @@ class Ribbon final : public QWidget {
 
 QWidget& MarkAsDemonstration(QWidget& window) {
     window.setWindowTitle("DEMONSTRATION - " + window.windowTitle().trimmed());
-    window.setWindowIcon(WithBand(window.windowIcon()));
+    window.setWindowIcon(DemoIcon());
     return *new Ribbon(*window.findChild<QWidget*>("Image1"));
 }
 
