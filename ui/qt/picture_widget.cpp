@@ -29,17 +29,14 @@ QPixmap DrawStrokes(const QString& name, QSize pixels) {
     return pixmap;
 }
 
-// From the pixels where they were prepared for this size.
+// From the pixels where they were prepared for this size; these stay where they are.
 QPixmap Draw(const QString& name, QSize pixels) {
     InitPictures();
     const QResource prepared(
         QString("%1-%2x%3").arg(name).arg(pixels.width()).arg(pixels.height()));
     if (!prepared.isValid()) return DrawStrokes(name, pixels);
-    const QByteArray bytes = prepared.uncompressedData();
-    return QPixmap::fromImage(QImage(reinterpret_cast<const uchar*>(bytes.constData()),
-                                     pixels.width(), pixels.height(),
-                                     QImage::Format_ARGB32_Premultiplied)
-                                  .copy());
+    return QPixmap::fromImage(QImage(prepared.data(), pixels.width(), pixels.height(),
+                                     QImage::Format_ARGB32_Premultiplied));
 }
 
 }  // namespace
