@@ -16,7 +16,7 @@ PACKAGES = Path("build/package")
 # What the start consists of, by the functions that do it; none of them calls another.
 STEPS = {
     "ld.so, before main": r"_dl_start_user|_dl_start",
-    "QApplication::QApplication: the display, its keyboard, the style": r"QApplication::QApplication\(",
+    "QApplication::QApplication: the display, the style": r"QApplication::QApplication\(",
     "QFontDatabase::families: the system's fonts": r"QFontDatabase::families\(",
     "keplin::qt::Fits: laying out each text, to choose the font": r"keplin::qt::Fits\(",
     "keplin::qt::LabelWidget::paintEvent: the texts of the page": r"LabelWidget::paintEvent\(",
