@@ -38,17 +38,21 @@ inline UniqueFd OpenRaw(const std::string& path) {
     return line;
 }
 
-// Whether that is so before two seconds are over.
+// Whether that is so before five seconds are over.
 template <typename Condition>
 bool Soon(Condition&& condition) {
-    const auto end = std::chrono::steady_clock::now() + 2s;
+    const auto end = std::chrono::steady_clock::now() + 5s;
     while (!condition() && std::chrono::steady_clock::now() < end)
         std::this_thread::sleep_for(5ms);
     return condition();
 }
 
-inline bool Appears(const std::string& path) {
-    return Soon([&] { return std::filesystem::exists(path); });
+// A device has its name a moment before it can be opened.
+inline bool Appears(const std::string& device) {
+    return Soon([&] {
+        return UniqueFd{::open(device.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)}.Get() >=
+               0;
+    });
 }
 
 // Takes the adapter of the line to ttyS2 out of its socket, or puts it back.
