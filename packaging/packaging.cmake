@@ -101,7 +101,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Wayland alone needs Qt's part for it; xdg-utils opens the manual.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, qt6-wayland, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, libqt6svg6, qt6-wayland, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "\
 Keplin finds the serial port on which a QDX-470 controller answers in its
 in-system-programming mode, erases the controller's program memory, sends it
