@@ -94,5 +94,22 @@ TEST(SpokenTexts, ARunThatStopsSaysSoAlsoWhenNoTextChanges) {
     EXPECT_EQ(ear.Latest(), "");  // what can no longer be seen
 }
 
+// NEXT stays enabled from an earlier port test.
+TEST(SpokenTexts, APortTestThatEndsBehindTheProgrammingPageIsNoRun) {
+    Rig rig;
+    const TemporaryFile file(kSmallFile);
+    rig.window.Next_1.Press();
+    rig.window.cmdPortTest.Press();
+    rig.desktop.Answer = file.Path();
+    Ear ear(rig);
+    bool pressed = false;
+    rig.desktop.OnYield = [&] {
+        if (!std::exchange(pressed, true)) rig.window.Next_2.Press();
+    };
+    const std::string heard = ear.After(rig.window.cmdPortTest);
+    EXPECT_TRUE(rig.window.PicProgram.Shown());
+    EXPECT_EQ(heard.find("stopped"), std::string::npos) << heard;
+}
+
 }  // namespace
 }  // namespace keplin::test

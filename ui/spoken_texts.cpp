@@ -49,11 +49,18 @@ bool SpokenTexts::Changed(const Control& control, Aspect aspect) {
             if (other->Container == &control && dynamic_cast<const Label*>(other)) Add(*other);
         }
     }
-    if (&control == &window_.cmdExit && aspect == Aspect::Enabled && RunStopped()) {
+    if (&control == &window_.cmdExit && aspect == Aspect::Enabled) FollowRun();
+    return fresh_.runStopped || !fresh_.texts.empty();
+}
+
+// Close cannot be pressed during a run, nor during a port test, which disables Port Test before it.
+void SpokenTexts::FollowRun() {
+    if (!window_.cmdExit.Enabled) {
+        running_ = window_.cmdPortTest.Enabled;
+    } else if (std::exchange(running_, false) && RunStopped()) {
         Add(window_.lblPrgm);
         fresh_.runStopped = true;
     }
-    return fresh_.runStopped || !fresh_.texts.empty();
 }
 
 std::string SpokenTexts::Take() {

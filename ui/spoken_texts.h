@@ -33,10 +33,12 @@ class SpokenTexts {
     [[nodiscard]] bool RunStopped() const;
     [[nodiscard]] bool CanBeRead(const Control& control) const;
     void Add(const Control& control);
+    void FollowRun();
 
     const ISPMain& window_;
     News fresh_;
     News taken_;
+    bool running_ = false;
 };
 
 }  // namespace keplin
