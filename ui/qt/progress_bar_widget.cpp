@@ -1,6 +1,7 @@
 #include "ui/qt/progress_bar_widget.h"
 
-#include <QEvent>
+#include <QHelpEvent>
+#include <QToolTip>
 #include <cmath>
 
 namespace keplin::qt {
@@ -30,14 +31,16 @@ void ProgressBarWidget::Apply(Aspect aspect) {
     }
 }
 
-// The tool tip is put into words only when it is asked for.
 bool ProgressBarWidget::event(QEvent* event) {
-    if (event->type() == QEvent::ToolTip) setToolTip(DoneText());
-    return QProgressBar::event(event);
+    if (event->type() != QEvent::ToolTip) return QProgressBar::event(event);
+    tipPlace_ = static_cast<QHelpEvent*>(event)->globalPos();
+    QToolTip::showText(tipPlace_, DoneText(), this);
+    return true;
 }
 
 void ProgressBarWidget::ShowDone() {
     setValue(static_cast<int>(std::lround(bar_.Done() * static_cast<float>(kSteps))));
+    if (underMouse() && QToolTip::isVisible()) QToolTip::showText(tipPlace_, DoneText(), this);
 }
 
 }  // namespace keplin::qt

@@ -25,6 +25,7 @@ class ProgressBarWidget final : public QProgressBar, public Drawn {
     const ProgressBar& bar_;
     const Look& look_;
     Pace pace_;
+    QPoint tipPlace_;
 };
 
 }  // namespace keplin::qt
