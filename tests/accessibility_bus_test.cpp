@@ -2,7 +2,7 @@
 // window manager: tests/in_private_session makes one.
 #include <QAccessible>
 #include <QDBusConnection>
-#include <QDBusInterface>
+#include <QDBusMessage>
 #include <QDBusReply>
 #include <QDBusVariant>
 #include <QThread>
@@ -12,6 +12,8 @@
 
 namespace keplin::test {
 
+constexpr auto Call = &QDBusMessage::createMethodCall;
+
 // A screen reader of a kind, on a connection and a thread of its own: the program's thread may be
 // in a pause.
 class Listener : public QObject {
@@ -19,14 +21,14 @@ class Listener : public QObject {
 
   public:
     Listener() {
-        const QDBusReply<QString> address =
-            QDBusInterface("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus").call("GetAddress");
+        const QDBusReply<QString> address = QDBusConnection::sessionBus().call(
+            Call("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress"));
         bus_ = QDBusConnection::connectToBus(address, "listener");
         moveToThread(&thread_);
         bus_.connect("", "", "org.a11y.atspi.Event.Object", "", this, SLOT(Hear(QDBusMessage)));
-        QDBusInterface registry("org.a11y.atspi.Registry", "/org/a11y/atspi/registry",
-                                "org.a11y.atspi.Registry", bus_);
-        registry.call("RegisterEvent", "object:");
+        bus_.call(Call("org.a11y.atspi.Registry", "/org/a11y/atspi/registry",
+                       "org.a11y.atspi.Registry", "RegisterEvent")
+                  << "object:");
         thread_.start();
     }
     ~Listener() override {
@@ -36,8 +38,7 @@ class Listener : public QObject {
 
     // Asks for the role of the widget, and waits at most half a second for the answer.
     void AskForRole(QWidget& widget) {
-        const QDBusMessage question =
-            QDBusMessage::createMethodCall(QDBusConnection("a11y").baseService(), PathOf(widget),
+        const QDBusMessage question = Call(QDBusConnection("a11y").baseService(), PathOf(widget),
                                            "org.a11y.atspi.Accessible", "GetRoleName");
         const auto ask = [this, question] {
             const QDBusReply<QString> answer = bus_.call(question, QDBus::Block, 500);
