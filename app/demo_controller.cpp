@@ -20,9 +20,9 @@ DemoController::DemoController(std::int32_t port, const std::vector<simulator::F
       silentLine_(nobody_),
       line_(WithFaults(controller_, faults)) {}
 
-std::string DemoController::DevicePath(std::int32_t port) const {
-    if (port == port_) return line_.DevicePath();
-    return port == 1 || port == 2 ? silentLine_.DevicePath() : "";
+std::vector<std::string> DemoController::DevicePaths() const {
+    if (port_ == 1) return {line_.DevicePath(), silentLine_.DevicePath()};
+    return {silentLine_.DevicePath(), line_.DevicePath()};
 }
 
 DemoController::Memory DemoController::ReadMemory() {

@@ -20,8 +20,8 @@ class DemoController {
     // Throws std::system_error when the system has no pseudo-terminal for it.
     DemoController(std::int32_t port, const std::vector<simulator::FaultAt>& faults);
 
-    // The device behind a port number; empty where there is none.
-    [[nodiscard]] std::string DevicePath(std::int32_t port) const;
+    // The devices behind ports 1 and 2.
+    [[nodiscard]] std::vector<std::string> DevicePaths() const;
 
     // The 64 KiB of the program memory as they are now.
     Memory ReadMemory();

@@ -28,7 +28,7 @@ class Demonstration {
     explicit Demonstration(DemoOptions options)
         : options_(std::move(options)),
           controller_(std::make_unique<DemoController>(options_.port, options_.faults)),
-          program_([this](std::int32_t port) { return controller_->DevicePath(port); }, Hooks()),
+          program_([this] { return controller_->DevicePaths(); }, Hooks()),
           ribbon_(MarkAsDemonstration(program_.drawing)),
           pictures_(program_.window, program_.drawing, ribbon_, options_.pictures),
           walk_(program_.window, program_.drawing, pictures_, options_.again),

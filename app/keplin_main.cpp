@@ -6,7 +6,7 @@
 
 int main(int argc, char** argv) {
     const auto application = keplin::OpenDisplay(argc, argv, "keplin");
-    keplin::Program program(keplin::NumberedComputerPorts(), {});
+    keplin::Program program([] { return keplin::ComputerPorts(); }, {});
     keplin::OpenManualOnF1(program.drawing);
     program.handlers.Main();
     return QApplication::exec();

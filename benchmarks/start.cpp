@@ -5,7 +5,7 @@
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    keplin::Program program(keplin::NumberedComputerPorts(), {});
+    keplin::Program program([] { return keplin::ComputerPorts(); }, {});
     program.handlers.Main();
     return keplin::benchmarks::TellWhenPainted();
 }

@@ -57,12 +57,4 @@ std::vector<std::string> ComputerPorts(const fs::path& deviceFolder,
     return ports;
 }
 
-DevicePaths NumberedComputerPorts(const fs::path& deviceFolder, const fs::path& ttyClassFolder) {
-    return [deviceFolder, ttyClassFolder](std::int32_t number) -> std::string {
-        const auto ports = ComputerPorts(deviceFolder, ttyClassFolder);
-        if (number < 1 || static_cast<std::size_t>(number) > ports.size()) return {};
-        return ports[static_cast<std::size_t>(number) - 1];
-    };
-}
-
 }  // namespace keplin

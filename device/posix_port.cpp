@@ -25,8 +25,6 @@ using std::chrono::steady_clock;
 // this is stuck.
 constexpr std::chrono::milliseconds kWriteBound{500};
 
-constexpr std::int32_t kLastPort = 4;
-
 struct StandardSpeed {
     std::int32_t bitsPerSecond;
     speed_t code;
@@ -111,6 +109,12 @@ bool IsPassing(int error) {
     return error == EAGAIN || error == EINTR;
 }
 
+// The path of a port, which is no longer among the paths then; empty where there is no such port.
+std::string TakeOut(std::vector<std::string>& paths, std::int32_t port) {
+    const auto index = static_cast<std::size_t>(port - 1);
+    return index < paths.size() ? std::exchange(paths[index], "") : "";
+}
+
 bool IsHungUp(int line) {
     pollfd state{.fd = line, .events = 0, .revents = 0};
     return poll(&state, 1, 0) == 1 && (state.revents & (POLLHUP | POLLERR)) != 0;
@@ -127,9 +131,9 @@ PosixPort::~PosixPort() {
 
 std::int32_t PosixPort::Open() {
     Close();
-    path_ = devicePaths_(portNumber_);
+    otherPaths_ = devicePaths_();
+    path_ = TakeOut(otherPaths_, portNumber_);
     speed_ = lineSpeed_;
-    otherPaths_ = OtherPaths();
     return OpenLine() ? 1 : 0;
 }
 
@@ -238,21 +242,12 @@ void PosixPort::ReopenLostLine() {
 // that stood beside it then is another device.
 std::string PosixPort::PathNow() const {
     if (std::filesystem::exists(path_)) return path_;
-    const auto now = OtherPaths();
+    const auto now = devicePaths_();
     const auto come = std::find_if(now.begin(), now.end(), [this](const std::string& path) {
-        return std::find(otherPaths_.begin(), otherPaths_.end(), path) == otherPaths_.end();
+        return !path.empty() &&
+               std::find(otherPaths_.begin(), otherPaths_.end(), path) == otherPaths_.end();
     });
     return come == now.end() ? path_ : *come;
-}
-
-// Of all ports that the computer has now, but for the one that was opened last.
-std::vector<std::string> PosixPort::OtherPaths() const {
-    std::vector<std::string> paths;
-    for (std::int32_t number = 1; number <= kLastPort; ++number) {
-        std::string path = devicePaths_(number);
-        if (!path.empty() && path != path_) paths.push_back(std::move(path));
-    }
-    return paths;
 }
 
 }  // namespace keplin

@@ -9,17 +9,15 @@
 #include <utility>
 #include <vector>
 
+#include "device/device_paths.h"
 #include "device/serial_port.h"
 #include "platform/unique_fd.h"
 
 namespace keplin {
 
-// The path of the device behind a port number, empty when the computer has no such port. Asked at
-// each opening, so that a port plugged in meanwhile is found.
-using DevicePaths = std::function<std::string(std::int32_t number)>;
-
 class PosixPort : public SerialPort {
   public:
+    // `devicePaths` is asked at each opening, so that a port plugged in meanwhile is found.
     // `lockFolder` is where terminal programs leave their lock files.
     explicit PosixPort(DevicePaths devicePaths, std::filesystem::path lockFolder = "/run/lock");
     ~PosixPort() override;
@@ -82,7 +80,6 @@ class PosixPort : public SerialPort {
     void AwaitRoom(Moment deadline);
 
     [[nodiscard]] std::string PathNow() const;
-    [[nodiscard]] std::vector<std::string> OtherPaths() const;
 
     const DevicePaths devicePaths_;
     const std::filesystem::path lockFolder_;
@@ -92,7 +89,7 @@ class PosixPort : public SerialPort {
     // The line opened last, as a lost one is to be opened again.
     std::string path_;
     std::int32_t speed_ = 0;
-    std::vector<std::string> otherPaths_;  // of the ports beside it at its Open
+    std::vector<std::string> otherPaths_;  // of all other ports at its Open
 
     UniqueFd line_;
     bool lost_ = false;

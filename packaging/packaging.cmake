@@ -2,6 +2,7 @@
 include(GNUInstallDirs)
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(made ${PROJECT_BINARY_DIR}/packaging)
+file(MAKE_DIRECTORY ${made})
 
 install(TARGETS keplin keplin-demo)
 install(FILES ${PROJECT_SOURCE_DIR}/samples/QDX-470-sample.HEX

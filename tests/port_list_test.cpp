@@ -46,15 +46,8 @@ TEST_F(PortList, ListsUsbThenModemThenBoardPortsByNumber) {
                            path("ttyS11")}));
 }
 
-TEST_F(PortList, NumbersThePortsAsTheyAreWhenAsked) {
-    const auto paths = NumberedComputerPorts(devices_, classes_);
-    EXPECT_EQ(paths(1), "") << "no folder yet";
-    AddDevice("ttyUSB1");
-    AddDevice("ttyACM0");
-    EXPECT_EQ(paths(1), devices_ / "ttyUSB1");
-    EXPECT_EQ(paths(2), devices_ / "ttyACM0");
-    for (const int number : {-1, 0, 3})
-        EXPECT_EQ(paths(number), "") << number;
+TEST_F(PortList, IsEmptyWithoutTheFolders) {
+    EXPECT_TRUE(ComputerPorts(devices_, classes_).empty());
 }
 
 }  // namespace

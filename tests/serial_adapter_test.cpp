@@ -75,9 +75,7 @@ class SerialAdapter : public ::testing::Test {
     const fs::path device_ = folder_ / "ttyUSB0";
     std::optional<PseudoTerminal> far_{std::in_place};
     int line_ = -1;  // the descriptor that is to be watched
-    PosixPort port_{
-        [this](std::int32_t number) { return number == 2 ? device_.string() : std::string{}; },
-        folder_};
+    PosixPort port_{[this] { return std::vector<std::string>{"", device_}; }, folder_};
 };
 
 TEST_F(SerialAdapter, PassesEveryByteUnchangedBothWays) {
@@ -322,21 +320,22 @@ TEST_F(SerialAdapter, ALostLineIsOpenedAgainOnlyWhenAskedTo) {
 TEST_F(SerialAdapter, ALostLineIsFoundUnderAnotherNameButNeverTakenForItsNeighbour) {
     const PseudoTerminal neighbour;
     const fs::path other = folder_ / "ttyUSB1";
-    std::vector<std::string> ports{device_, neighbour.Path()};
-    PosixPort port([&](std::int32_t number) {
-        const auto index = static_cast<std::size_t>(number - 1);
-        return index < ports.size() ? ports[index] : "";
-    });
+    // More ports than a search tries: the last one moves up when the first is gone.
+    const std::vector<std::string> others{"/nowhere/2", "/nowhere/3", "/nowhere/4",
+                                          neighbour.Path()};
+    std::vector<std::string> ports{others};
+    ports.insert(ports.begin(), device_);
+    PosixPort port([&] { return ports; });
     const auto replug = [&](const fs::path& from, const fs::path& to) {
         far_->HangUp();
         port.CheckLine();
         fs::remove(from);
-        ports = {neighbour.Path()};  // which is port 1 now
+        ports = others;
         port.ReopenLostLine();
         EXPECT_TRUE(port.LineLost());
 
         fs::create_symlink(far_.emplace().Path(), to);
-        ports = {neighbour.Path(), to};
+        ports.push_back(to);
         port.ReopenLostLine();
         EXPECT_FALSE(port.LineLost());
         EXPECT_NO_THROW(port.WriteByte(kPing));

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "device/port_list.h"
+#include "device/posix_port.h"
 #include "handlers/handlers.h"
 #include "ui/qt/qt_desktop.h"
 
@@ -45,7 +46,7 @@ class MachineDesktop : public qt::QtDesktop {
 };
 
 struct Program {
-    explicit Program(DevicePaths ports = NumberedComputerPorts()) : port(std::move(ports)) {
+    explicit Program(DevicePaths ports = [] { return ComputerPorts(); }) : port(std::move(ports)) {
         handlers.Main();
     }
     ~Program() { port.Close(); }

@@ -19,7 +19,7 @@ inline std::int32_t OpenPort(PosixPort& port, std::int32_t number, std::int32_t 
 
 // A computer on which port 1 is this one and there is no other.
 inline DevicePaths Only(const std::string& path) {
-    return [path](std::int32_t number) { return number == 1 ? path : std::string{}; };
+    return [path] { return std::vector{path}; };
 }
 
 // What opening this path gives to somebody else.
