@@ -23,7 +23,8 @@ struct TextStyle {
     bool bold = false;
     float points = 0;  // size of the font; 0: the default dialog font
 
-    // What the text tells, where the text itself comes and goes; a screen reader hears each change.
+    // What the text tells, where the text itself comes and goes: its name to a screen reader while
+    // it is empty.
     const char* description = "";
 };
 
