@@ -2,7 +2,7 @@
 // and the handlers.
 #pragma once
 
-#include "device/posix_port.h"
+#include "device/posix/posix_port.h"
 #include "handlers/handlers.h"
 #include "ui/isp_main.h"
 #include "ui/qt/main_window.h"

@@ -7,7 +7,7 @@
 
 #include "benchmarks/moment.h"
 #include "simulator/loader.h"
-#include "simulator/pseudo_terminal_line.h"
+#include "simulator/posix/pseudo_terminal_line.h"
 
 namespace keplin::benchmarks {
 namespace {

@@ -1,7 +1,7 @@
 // keplin-bench-start: the program up to its first page.
 #include "app/program.h"
 #include "benchmarks/painted.h"
-#include "device/port_list.h"
+#include "device/posix/port_list.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

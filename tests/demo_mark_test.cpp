@@ -1,10 +1,9 @@
 // What tells the demonstration from the product.
-#include "app/demo_mark.h"
-
 #include <gtest/gtest.h>
 
 #include <QIcon>
 
+#include "demo/mark.h"
 #include "tests/support/qt_window.h"
 
 namespace keplin::test {

@@ -1,5 +1,5 @@
 // Which serial ports a computer has, on folders laid out like those of a Linux system.
-#include "device/port_list.h"
+#include "device/posix/port_list.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>

@@ -1,5 +1,5 @@
 // The line between a host and a simulated controller, through real pseudo-terminals.
-#include "simulator/pseudo_terminal_line.h"
+#include "simulator/posix/pseudo_terminal_line.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 
 #include <string>
 
-#include "platform/unique_fd.h"
+#include "platform/posix/unique_fd.h"
 #include "simulator/faulty_device.h"
 #include "simulator/loader.h"
 

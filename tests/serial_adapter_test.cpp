@@ -12,8 +12,8 @@
 #include <thread>
 #include <vector>
 
-#include "device/posix_port.h"
-#include "device/prompt_close.h"
+#include "device/posix/posix_port.h"
+#include "device/posix/prompt_close.h"
 #include "tests/support/open_port.h"
 #include "tests/support/pseudo_terminal.h"
 

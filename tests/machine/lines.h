@@ -18,7 +18,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/unique_fd.h"
+#include "platform/posix/unique_fd.h"
 #include "simulator/loader.h"
 #include "simulator/wire.h"
 

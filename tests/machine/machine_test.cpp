@@ -8,7 +8,7 @@
 #include <optional>
 #include <tuple>
 
-#include "app/file_image.h"
+#include "demo/file_image.h"
 #include "tests/machine/lines.h"
 #include "tests/machine/program.h"
 #include "tests/support/open_port.h"

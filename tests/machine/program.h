@@ -9,8 +9,8 @@
 #include <string>
 #include <utility>
 
-#include "device/port_list.h"
-#include "device/posix_port.h"
+#include "device/posix/port_list.h"
+#include "device/posix/posix_port.h"
 #include "handlers/handlers.h"
 #include "ui/qt/qt_desktop.h"
 

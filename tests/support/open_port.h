@@ -6,7 +6,7 @@
 
 #include <filesystem>
 
-#include "device/posix_port.h"
+#include "device/posix/posix_port.h"
 
 namespace keplin::test {
 

@@ -1,4 +1,4 @@
-#include "device/prompt_close.h"
+#include "device/posix/prompt_close.h"
 
 #include <termios.h>
 #include <unistd.h>

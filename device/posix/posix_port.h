@@ -11,7 +11,7 @@
 
 #include "device/device_paths.h"
 #include "device/serial_port.h"
-#include "platform/unique_fd.h"
+#include "platform/posix/unique_fd.h"
 
 namespace keplin {
 

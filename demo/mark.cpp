@@ -1,4 +1,4 @@
-#include "app/demo_mark.h"
+#include "demo/mark.h"
 
 #include <QIcon>
 #include <QPainter>

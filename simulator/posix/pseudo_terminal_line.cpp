@@ -1,4 +1,4 @@
-#include "simulator/pseudo_terminal_line.h"
+#include "simulator/posix/pseudo_terminal_line.h"
 
 #include <fcntl.h>
 #include <poll.h>

@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "app/stage_pictures.h"
+#include "demo/stage_pictures.h"
 #include "ui/isp_main.h"
 
 namespace keplin {

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/unique_fd.h"
+#include "platform/posix/unique_fd.h"
 #include "simulator/device_end.h"
 #include "simulator/wire.h"
 

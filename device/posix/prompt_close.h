@@ -1,7 +1,7 @@
 // Closing a serial line without waiting for a device that takes no bytes.
 #pragma once
 
-#include "platform/unique_fd.h"
+#include "platform/posix/unique_fd.h"
 
 namespace keplin {
 

@@ -2,7 +2,7 @@
 #include "app/application.h"
 #include "app/manual_key.h"
 #include "app/program.h"
-#include "device/port_list.h"
+#include "device/posix/port_list.h"
 
 int main(int argc, char** argv) {
     const auto application = keplin::OpenDisplay(argc, argv, "keplin");

@@ -1,4 +1,4 @@
-#include "app/stage_pictures.h"
+#include "demo/stage_pictures.h"
 
 #include <QPixmap>
 #include <QString>

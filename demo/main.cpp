@@ -10,15 +10,15 @@
 #include <string>
 
 #include "app/application.h"
-#include "app/change_printer.h"
-#include "app/demo_controller.h"
-#include "app/demo_mark.h"
-#include "app/demo_options.h"
-#include "app/file_image.h"
 #include "app/manual_key.h"
 #include "app/program.h"
-#include "app/stage_pictures.h"
-#include "app/walk.h"
+#include "demo/change_printer.h"
+#include "demo/controller.h"
+#include "demo/file_image.h"
+#include "demo/mark.h"
+#include "demo/options.h"
+#include "demo/stage_pictures.h"
+#include "demo/walk.h"
 
 namespace keplin {
 namespace {

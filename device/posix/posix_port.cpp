@@ -1,4 +1,4 @@
-#include "device/posix_port.h"
+#include "device/posix/posix_port.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -13,8 +13,8 @@
 #include <optional>
 #include <utility>
 
-#include "device/lock_file.h"
-#include "device/prompt_close.h"
+#include "device/posix/lock_file.h"
+#include "device/posix/prompt_close.h"
 
 namespace keplin {
 namespace {

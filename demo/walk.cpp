@@ -1,4 +1,4 @@
-#include "app/walk.h"
+#include "demo/walk.h"
 
 #include <QAbstractButton>
 #include <iostream>

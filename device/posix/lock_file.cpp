@@ -1,4 +1,4 @@
-#include "device/lock_file.h"
+#include "device/posix/lock_file.h"
 
 #include <cerrno>
 #include <csignal>

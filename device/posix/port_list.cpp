@@ -1,4 +1,4 @@
-#include "device/port_list.h"
+#include "device/posix/port_list.h"
 
 #include <charconv>
 #include <cstddef>

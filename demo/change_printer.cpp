@@ -1,4 +1,4 @@
-#include "app/change_printer.h"
+#include "demo/change_printer.h"
 
 #include <iostream>
 #include <utility>

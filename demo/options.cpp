@@ -1,4 +1,4 @@
-#include "app/demo_options.h"
+#include "demo/options.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

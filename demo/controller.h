@@ -9,7 +9,7 @@
 
 #include "simulator/faulty_device.h"
 #include "simulator/loader.h"
-#include "simulator/pseudo_terminal_line.h"
+#include "simulator/posix/pseudo_terminal_line.h"
 
 namespace keplin {
 

@@ -1,4 +1,4 @@
-#include "app/demo_controller.h"
+#include "demo/controller.h"
 
 namespace keplin {
 namespace {

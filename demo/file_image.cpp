@@ -1,4 +1,4 @@
-#include "app/file_image.h"
+#include "demo/file_image.h"
 
 #include <algorithm>
 #include <fstream>
