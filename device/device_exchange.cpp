@@ -100,7 +100,7 @@ void DeviceExchange::DiscardReceived() {
 std::int32_t DeviceExchange::ReadByte() {
     std::int32_t byte = kNoByte;
     PassOver([&] { byte = Port1.ReadByte(); });
-    return byte >= 0 && byte <= 0xFF ? byte : kNoByte;
+    return byte;
 }
 
 }  // namespace keplin

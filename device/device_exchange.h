@@ -28,6 +28,9 @@ class DeviceExchange {
     // controller that comes into the midst of one has not been erased by it.
     void ReopenLostLine();
 
+    // The discard step: what was received until now is not the answer to what is sent next.
+    void DiscardReceived();
+
     // True when the controller sends back the ping byte within 50 ms, ahead of any other byte.
     bool PingDevice();
 
@@ -44,7 +47,6 @@ class DeviceExchange {
 
   private:
     bool ExchangeRecord(std::string_view record);
-    void DiscardReceived();
     std::int32_t ReadByte();
 
     SerialPort& Port1;

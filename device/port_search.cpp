@@ -34,8 +34,7 @@ bool PortSearch::TryPort(std::int16_t port) {
         return false;
     }
     ShowForASecond("Port " + number + " Active.  Ping Test Started");
-    PassOver([&] { Port1.Setting47(-1); });
-    PassOver([&] { Port1.DiscardInput(); });
+    controller_.DiscardReceived();
     const bool answered = controller_.PingDevice();
     ShowForASecond("Port " + number + (answered ? " Ping Test Passed" : " Ping Test Failed"));
     return answered;

@@ -19,9 +19,6 @@ struct Injection {
     FaultKind kind = FaultKind::Silence;
     std::string honest;  // the loader's own reply; empty when the fault kept the bytes from it
     std::string sent;    // the reply that went out instead, without any babble
-
-    // False for a fault that found nothing to change in this reply; pauses do not count.
-    [[nodiscard]] bool Changed() const { return honest != sent; }
 };
 
 // Counts exchanges from 1 as the loader sees them: each ping and each record is one, and so is each

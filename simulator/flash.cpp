@@ -20,7 +20,6 @@ void Flash::EraseFirstHalf(Block block) {
 }
 
 bool Flash::Write(std::size_t address, std::span<const std::uint8_t> data) {
-    if (address > kSize || data.size() > kSize - address) return false;
     const auto cells = std::span(cells_).subspan(address, data.size());
     if (!std::ranges::all_of(cells, [](std::uint8_t cell) { return cell == kErased; })) {
         return false;

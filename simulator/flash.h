@@ -39,8 +39,8 @@ class Flash {
     // What an erase leaves that was cut short: the lower half of the block erased, the rest as is.
     void EraseFirstHalf(Block block);
 
-    // Writes `data` from `address` on. False when one of the cells is not erased or lies beyond
-    // the memory; then nothing was written.
+    // Writes `data` from `address` on, within the memory. False when one of the cells is not
+    // erased; then nothing was written.
     bool Write(std::size_t address, std::span<const std::uint8_t> data);
 
   private:

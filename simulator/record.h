@@ -56,9 +56,6 @@ class Record {
     // All bytes, the checksum with them, add up to 0 modulo 256.
     [[nodiscard]] bool ChecksumRight() const;
 
-    static constexpr std::uint8_t kData = 0;
-    static constexpr std::uint8_t kEndOfFile = 1;
-    static constexpr std::uint8_t kCalibration = 2;
     static constexpr std::uint8_t kErase = 3;
 
   private:

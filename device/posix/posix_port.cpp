@@ -8,9 +8,7 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <optional>
 #include <utility>
 
 #include "device/posix/lock_file.h"
@@ -25,23 +23,9 @@ using std::chrono::steady_clock;
 // this is stuck.
 constexpr std::chrono::milliseconds kWriteBound{500};
 
-struct StandardSpeed {
-    std::int32_t bitsPerSecond;
-    speed_t code;
-};
-
-constexpr std::array kStandardSpeeds{
-    StandardSpeed{1200, B1200},   StandardSpeed{2400, B2400},     StandardSpeed{4800, B4800},
-    StandardSpeed{9600, B9600},   StandardSpeed{19200, B19200},   StandardSpeed{38400, B38400},
-    StandardSpeed{57600, B57600}, StandardSpeed{115200, B115200}, StandardSpeed{230400, B230400},
-};
-
-std::optional<speed_t> SpeedCode(std::int32_t bitsPerSecond) {
-    for (const auto& speed : kStandardSpeeds) {
-        if (speed.bitsPerSecond == bitsPerSecond) return speed.code;
-    }
-    return std::nullopt;
-}
+// The loader knows no other speed.
+constexpr std::int32_t kBitsPerSecond = 38400;
+constexpr speed_t kSpeed = B38400;
 
 bool HasModemLines(int line) {
     int modemLines = 0;
@@ -63,15 +47,15 @@ constexpr tcflag_t kOutputFlags = OPOST;
 constexpr tcflag_t kLocalFlags = ECHO | ECHONL | ICANON | ISIG | IEXTEN;
 constexpr tcflag_t kFramingFlags = CSIZE | CSTOPB | PARENB | PARODD | CRTSCTS | CLOCAL | CREAD;
 
-termios RawSettings(termios settings, speed_t speed) {
+termios RawSettings(termios settings) {
     cfmakeraw(&settings);
     settings.c_iflag &= ~kInputFlags;
     settings.c_cflag &= ~(tcflag_t{CSTOPB} | PARODD | CRTSCTS);
     settings.c_cflag |= CLOCAL | CREAD;
     settings.c_cc[VMIN] = 1;
     settings.c_cc[VTIME] = 0;
-    cfsetispeed(&settings, speed);
-    cfsetospeed(&settings, speed);
+    cfsetispeed(&settings, kSpeed);
+    cfsetospeed(&settings, kSpeed);
     return settings;
 }
 
@@ -86,22 +70,21 @@ bool Agree(const termios& one, const termios& other) {
            cfgetospeed(&one) == cfgetospeed(&other);
 }
 
-bool Configure(int line, speed_t speed) {
+bool Configure(int line) {
     termios found{};
     if (tcgetattr(line, &found) != 0) return false;
-    const termios wanted = RawSettings(found, speed);
+    const termios wanted = RawSettings(found);
     // Setting them succeeds as soon as the driver took one of them: only reading back tells.
     return tcsetattr(line, TCSANOW, &wanted) == 0 && tcgetattr(line, &found) == 0 &&
            Agree(wanted, found);
 }
 
 UniqueFd OpenDevice(const std::string& path, std::int32_t bitsPerSecond) {
-    const auto speed = SpeedCode(bitsPerSecond);
-    if (!speed) return {};
+    if (bitsPerSecond != kBitsPerSecond) return {};
     // Without O_NONBLOCK the opening would wait for a carrier that a three-wire cable never shows.
     UniqueFd line{::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)};
-    const bool usable = line && Claim(line.Get()) && Configure(line.Get(), *speed) &&
-                        tcflush(line.Get(), TCIFLUSH) == 0;
+    const bool usable =
+        line && Claim(line.Get()) && Configure(line.Get()) && tcflush(line.Get(), TCIFLUSH) == 0;
     return usable ? std::move(line) : UniqueFd{};
 }
 

@@ -25,7 +25,7 @@ class PosixPort : public SerialPort {
     PosixPort& operator=(const PosixPort&) = delete;
 
     void PortNumber(std::int32_t number) override { portNumber_ = number; }
-    // One of the standard speeds from 1200 to 230400; with any other the next Open fails.
+    // 38400; with any other the next Open fails.
     void LineSpeed(std::int32_t bitsPerSecond) override { lineSpeed_ = bitsPerSecond; }
     // Means nothing to this adapter.
     void Setting3(std::int32_t) override {}
