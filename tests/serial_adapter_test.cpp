@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <chrono>
@@ -254,6 +255,9 @@ TEST_F(SerialAdapter, StaysAwayFromAPortThatARunningProcessHasLocked) {
     for (const char* other : {"", "0\n", "-1\n", "no number"}) {
         EXPECT_EQ(openLockedBy(other), 1) << other;
     }
+    fs::remove(lock);
+    ASSERT_EQ(mkfifo(lock.c_str(), 0600), 0);
+    EXPECT_EQ(OpenAnother(device_, folder_), 1) << "nobody writes into it";
 }
 
 // No pseudo-terminal makes its closing wait; this socket does, for a reader who takes nothing.

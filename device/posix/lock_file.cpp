@@ -1,20 +1,32 @@
 #include "device/posix/lock_file.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <sstream>
+
+#include "platform/unique_fd.h"
 
 namespace keplin {
 namespace {
 
+// The beginning of the file, as far as it can be read without waiting. Anybody may put anything
+// into the folder: what never ends, or waits for a writer, must not hold up a port test.
+std::string BeginningOf(const std::filesystem::path& lockFile) {
+    const UniqueFd file{::open(lockFile.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)};
+    std::array<char, 64> bytes{};
+    const ssize_t count = file ? ::read(file.Get(), bytes.data(), bytes.size()) : -1;
+    return {bytes.data(), count > 0 ? static_cast<std::size_t>(count) : 0};
+}
+
 // The number of the process as text, or as the bytes of an int, which some programs write. 0 when
 // the file holds neither.
 pid_t ProcessIn(const std::filesystem::path& lockFile) {
-    std::ifstream file(lockFile, std::ios::binary);
-    const std::string contents{std::istreambuf_iterator<char>(file), {}};
+    const std::string contents = BeginningOf(lockFile);
     pid_t process = 0;
     if (contents.size() == sizeof process) {
         std::memcpy(&process, contents.data(), sizeof process);
