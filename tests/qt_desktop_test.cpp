@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileSystemWatcher>
 #include <QLineEdit>
 #include <QLocale>
 #include <QTemporaryDir>
@@ -167,6 +168,8 @@ TEST_F(QtDialogTest, ShowsTheNewestFileFirstInCapitalsOrNot) {
         EXPECT_EQ(dialog.selectedNameFilter(), "QDX-470 Files (*.HEX)");
         EXPECT_TRUE(dialog.sidebarUrls().contains(QUrl::fromLocalFile(QDir::homePath())));
     });
+    const auto watchersOfPlaces = [&] { return window.findChildren<QFileSystemWatcher*>(); };
+    EXPECT_TRUE(Until([&] { return watchersOfPlaces().isEmpty(); })) << "the dialog is closed";
 }
 
 TEST_F(QtDesktopTest, WhereTheWorkingDirectoryWasDeletedHomeStandsInForIt) {

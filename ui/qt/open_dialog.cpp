@@ -46,7 +46,8 @@ QList<QUrl> Places() {
     return places << QUrl("file:");  // the whole computer
 }
 
-// A stick that is plugged in while the dialog stands open appears.
+// A stick that is plugged in while the dialog stands open appears. Later the places are left alone:
+// looking at one that hangs would hold up an update.
 void ShowPlaces(QFileDialog& dialog) {
     const int small = dialog.style()->pixelMetric(QStyle::PM_SmallIconSize);
     auto* bar = dialog.findChild<QListView*>("sidebar");
@@ -56,6 +57,7 @@ void ShowPlaces(QFileDialog& dialog) {
     };
     if (bar != nullptr) bar->setIconSize(QSize(small, small));
     auto* watcher = new QFileSystemWatcher(&dialog);
+    QObject::connect(&dialog, &QDialog::finished, watcher, &QObject::deleteLater);
     const auto watch = [watcher] {
         for (const QString& folder : MountFolders()) {
             if (QFileInfo(folder).isDir()) watcher->addPath(folder);
