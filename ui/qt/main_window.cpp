@@ -23,8 +23,10 @@ constexpr Qt::WindowFlags kFrame = Qt::Window | Qt::CustomizeWindowHint | Qt::Wi
 constexpr QSize kFrameRoom{4, 40};
 
 // As many dots per inch as the desktop has, or fewer on a screen that could not show all buttons.
+// One without a size stands for none at all: the desktop has its screens switched off.
 double DotsPerInch(const QWidget& window, const Form& form) {
     const QSize room = window.screen()->availableSize() - kFrameRoom;
+    if (room.isEmpty()) return window.logicalDpiY();
     const float height = form.ClientHeight() - form.Height + kShownHeight;
     return std::min({double(window.logicalDpiY()), Scale::Fitting(form.Width, room.width()),
                      Scale::Fitting(height, room.height())});
