@@ -27,14 +27,15 @@ class MachineDesktop : public qt::QtDesktop {
                              .hungUp = [&port] { port.CheckLine(); },
                              .openFile = [this](const auto&) { return File; },
                              .beforeEnd = {}}) {
-        port.OnLineChange = [this](int line) { WatchLine(line_.fd = line); };
+        port.OnLineChange = [this](int line) { WatchLine(line_ = line); };
     }
 
     void Sleep(Milliseconds duration) override {
         if (OnSleep) OnSleep(duration);
         const bool answer = duration == kAnswerTime;
         QtDesktop::Sleep(answer ? duration : duration / Hurry);
-        if (answer && line_.fd >= 0) ::poll(&line_, 1, 1000);
+        pollfd waiting{.fd = line_, .events = POLLIN, .revents = 0};
+        if (answer && line_ >= 0) ::poll(&waiting, 1, 1000);
     }
 
     std::string File;  // chosen in the open-file dialog
@@ -42,7 +43,7 @@ class MachineDesktop : public qt::QtDesktop {
     std::function<void(Milliseconds)> OnSleep;
 
   private:
-    pollfd line_{.fd = -1, .events = POLLIN, .revents = 0};
+    int line_ = -1;
 };
 
 struct Program {
