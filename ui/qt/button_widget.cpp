@@ -29,9 +29,10 @@ void ButtonWidget::ApplyCaption() {
 
 // A key that is held down presses once.
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const int key = event->key();
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
     const bool meant = !event->isAutoRepeat() && guard_.Takes(button_);
-    if (!meant && (enter || event->key() == Qt::Key_Space)) return;
+    if (!meant && (enter || key == Qt::Key_Space || key == Qt::Key_Select)) return;
     if (enter) {
         click();
     } else {
