@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QToolTip>
 #include <cmath>
+#include <cstdlib>
 
 namespace keplin::qt {
 namespace {
@@ -38,9 +39,15 @@ bool ProgressBarWidget::event(QEvent* event) {
     return true;
 }
 
+// Qt itself would paint only once the bar gained nine pixels; a label that overlaps it and is
+// painted before then would show a part of the new bar on the old one.
 void ProgressBarWidget::ShowDone() {
-    setValue(static_cast<int>(std::lround(bar_.Done() * static_cast<float>(kSteps))));
     if (underMouse() && QToolTip::isVisible()) QToolTip::showText(tipPlace_, DoneText(), this);
+    const int done = static_cast<int>(std::lround(bar_.Done() * static_cast<float>(kSteps)));
+    const bool isEnd = done == 0 || done == kSteps;
+    if (!isEnd && std::abs(done - value()) * width() < kSteps) return;  // less than a pixel
+    setValue(done);
+    update();
 }
 
 }  // namespace keplin::qt
