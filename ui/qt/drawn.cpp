@@ -27,10 +27,16 @@ void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale) {
     }
 }
 
+// Filled, not drawn with a pen: where the desktop magnifies by one and a half, a pen's line may
+// come to lie beside the widget.
 void DrawOutline(QPainter& painter, const QRectF& rectangle, const QColor& colour) {
-    const double pixel = 1 / painter.device()->devicePixelRatio();
-    painter.setPen(QPen(colour, 0));
-    painter.drawRect(rectangle.adjusted(0, 0, -pixel, -pixel));
+    const double pixel = 1 / painter.device()->devicePixelRatioF();
+    const QSizeF across(rectangle.width(), pixel);
+    const QSizeF down(pixel, rectangle.height());
+    painter.fillRect({rectangle.topLeft(), across}, colour);
+    painter.fillRect({rectangle.bottomLeft() - QPointF(0, pixel), across}, colour);
+    painter.fillRect({rectangle.topLeft(), down}, colour);
+    painter.fillRect({rectangle.topRight() - QPointF(pixel, 0), down}, colour);
 }
 
 }  // namespace keplin::qt
