@@ -9,7 +9,7 @@
 #include <cstring>
 #include <sstream>
 
-#include "platform/unique_fd.h"
+#include "platform/posix/unique_fd.h"
 
 namespace keplin {
 namespace {
