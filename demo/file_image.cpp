@@ -33,9 +33,7 @@ std::vector<std::uint8_t> ImageOfFile(const std::string& path) try {
     std::ifstream file(path, std::ios::binary);
     LineReader reader(file);
     while (!reader.AtEnd()) {
-        const std::string line{reader.ReadLine()};
-        if (line.empty()) break;
-        Place(line, image);
+        Place(std::string(reader.ReadLine()), image);
     }
     return image;
 } catch (const std::exception&) {

@@ -33,12 +33,11 @@ class AwakeWhile {
 void UpdateRun::Run() {
     window_.cmdExit.Enabled = false;
     const AwakeWhile running(desktop_);
-    bool programmed = false;
-    PassOver([&] { programmed = EraseAndProgram(); });
-    if (programmed) {
+    PassOver([&] {
+        if (!EraseAndProgram()) return;
         ShowUpdateComplete();
         window_.lblPrgm.Visible = false;
-    }
+    });
     StopActivity(window_);
     window_.cmdExit.Enabled = true;
 }

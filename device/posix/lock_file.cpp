@@ -28,7 +28,8 @@ std::string BeginningOf(const std::filesystem::path& lockFile) {
 pid_t ProcessIn(const std::filesystem::path& lockFile) {
     const std::string contents = BeginningOf(lockFile);
     pid_t process = 0;
-    if (contents.size() == sizeof process) {
+    const bool isText = contents.find_first_not_of("0123456789 \n") == std::string::npos;
+    if (contents.size() == sizeof process && !isText) {
         std::memcpy(&process, contents.data(), sizeof process);
     } else {
         std::istringstream(contents) >> process;

@@ -2,7 +2,10 @@
 
 #include <QImage>
 #include <QPainter>
+#include <array>
 #include <chrono>
+#include <system_error>
+#include <thread>
 
 namespace keplin::qt {
 namespace {
@@ -11,6 +14,7 @@ using namespace std::chrono_literals;
 
 constexpr auto kStart = 1s;   // not while the window comes up
 constexpr auto kPause = 10s;  // a third of what ends an idle thread
+constexpr std::size_t kMost = 4;
 
 // A soft edge down so many rows is as much as Qt ever shares out at a time.
 void UseAll() {
@@ -23,12 +27,30 @@ void UseAll() {
     painter.drawPolygon(QPolygonF({{0.3, 0.0}, {3.6, 0.0}, {3.1, 512.0}, {0.7, 512.0}}));
 }
 
+// Whether the system has threads left for that.
+bool CanBeMade() {
+    try {
+        std::array<std::jthread, kMost> threads;
+        for (std::jthread& thread : threads)
+            thread = std::jthread([] { std::this_thread::sleep_for(1ms); });
+        return true;
+    } catch (const std::system_error&) {
+        return false;
+    }
+}
+
 }  // namespace
 
 DrawingThreads::DrawingThreads() {
-    again_.callOnTimeout(UseAll);
+    again_.callOnTimeout([this] { Keep(); });
     again_.start(kPause);
-    QTimer::singleShot(kStart, &again_, UseAll);
+    QTimer::singleShot(kStart, &again_, [this] { Keep(); });
+}
+
+void DrawingThreads::Keep() {
+    if (!there_ && !CanBeMade()) return;
+    UseAll();
+    there_ = true;
 }
 
 }  // namespace keplin::qt

@@ -33,7 +33,9 @@ void LineWatch::Watch(int descriptor) {
     byte_->setEnabled(false);
     QObject::connect(byte_.get(), &QSocketNotifier::activated, byte_.get(),
                      [byte = byte_.get()] { byte->setEnabled(false); });
-    QObject::connect(loss_.get(), &QSocketNotifier::activated, loss_.get(), [this] { hungUp_(); });
+    QObject::connect(loss_.get(), &QSocketNotifier::activated, loss_.get(), [this] {
+        if (hungUp_) hungUp_();
+    });
 }
 
 void LineWatch::ProcessEvents() {
