@@ -1,14 +1,17 @@
-// The simulated controller: its loader and its faults.
+// The simulated controller: its loader, its faults and the wire it hangs on.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "simulator/faulty_device.h"
 #include "simulator/loader.h"
+#include "simulator/wire.h"
 
 namespace keplin::simulator {
 namespace {
@@ -19,13 +22,11 @@ const std::string kData = ":03000000010203F7";  // 01 02 03 from 0000 on
 
 std::string Send(DeviceEnd& device, std::string_view text) {
     Reply answer;
-    for (const char character : text) {
+    for (const char character : text)
         device.Receive(static_cast<std::uint8_t>(character), answer);
-    }
     std::string result;
-    for (const SentByte byte : answer) {
+    for (const SentByte byte : answer)
         result.push_back(static_cast<char>(byte.value));
-    }
     return result;
 }
 
@@ -44,46 +45,34 @@ TEST(SimulatedLoader, EchoesARecordAsItComesAndObeys) {
 }
 
 TEST(SimulatedLoader, RefusesEachWithItsLetterAndKeepsItsMemory) {
-    struct Case {
-        bool calibrated;
-        std::string record;
-        char letter;
+    Loader loader;
+    const std::pair<std::string, char> records[] = {
+        {kErase1, 'N'},         {":01800000017E", 'N'},
+        {kCalibration, '.'},    {":03000000010203F8", 'S'},
+        {":00000004FC", 'T'},   {":0100000100FE", 'F'},
+        {":010000020DF0", 'F'}, {":020000030700F4", 'F'},
+        {kData, 'W'},           {":02FFFF000102FD", 'R'},
     };
-    const std::vector<Case> cases{
-        {true, ":03000000010203F8", 'S'}, {true, ":00000004FC", 'T'},
-        {true, ":0100000100FE", 'F'},     {true, ":010000020DF0", 'F'},
-        {true, ":020000030700F4", 'F'},   {false, kErase1, 'N'},
-        {false, ":01800000017E", 'N'},    {true, kData, 'W'},
-        {true, ":02FFFF000102FD", 'R'},
-    };
-    for (const Case& one : cases) {
-        Loader loader;
-        if (one.calibrated) Send(loader, kCalibration);
-        EXPECT_EQ(Send(loader, one.record), one.record + one.letter + "\r\n");
-        EXPECT_TRUE(SameMemory(loader.Memory(), Flash())) << one.record;
+    for (const auto& [record, letter] : records) {
+        EXPECT_EQ(Send(loader, record), record + letter + "\r\n");
+        EXPECT_TRUE(SameMemory(loader.Memory(), Flash())) << record;
     }
 }
 
 TEST(SimulatedLoader, ErasesEachBlockWhollyAndNoOther) {
-    struct Case {
-        std::string record;
-        std::size_t first;
-        std::size_t end;
+    const std::pair<std::string, Block> erasures[] = {
+        {":020000030100FA", {0x0000, 0x2000}},
+        {":020000030120DA", {0x2000, 0x2000}},
+        {":020000030140BA", {0x4000, 0x4000}},
     };
-    const std::vector<Case> cases{
-        {":020000030100FA", 0x0000, 0x2000},
-        {":020000030120DA", 0x2000, 0x4000},
-        {":020000030140BA", 0x4000, 0x8000},
-    };
-    for (const Case& one : cases) {
+    for (const auto& [record, block] : erasures) {
         Loader loader;
         Send(loader, kCalibration + ":01800000116E:01BFFF00443D:01C00000221D:01FFFF0033CE");
-        std::vector<std::uint8_t> expected(loader.Memory().Cells().begin(),
-                                           loader.Memory().Cells().end());
+        std::vector expected(loader.Memory().Cells().begin(), loader.Memory().Cells().end());
         EXPECT_EQ(expected[0xFFFF], 0x33);
-        std::fill(expected.data() + one.first, expected.data() + one.end, Flash::kErased);
-        EXPECT_EQ(Send(loader, one.record), one.record + ".\r\n");
-        EXPECT_TRUE(std::ranges::equal(loader.Memory().Cells(), expected)) << one.record;
+        std::fill_n(expected.data() + block.first, block.size, Flash::kErased);
+        EXPECT_EQ(Send(loader, record), record + ".\r\n");
+        EXPECT_TRUE(std::ranges::equal(loader.Memory().Cells(), expected)) << record;
     }
 }
 
@@ -114,56 +103,65 @@ TEST(SimulatedFaults, NamesAreReadWithTheirPlace) {
 TEST(SimulatedFaults, EachChangesOneReply) {
     const std::string echo = kCalibration;
     const std::string honest = echo + ".\r\n";
-    struct Case {
-        FaultKind kind;
-        std::string reply;
-        bool obeyed = true;
-    };
-    const std::vector<Case> cases{
-        {FaultKind::Silence, ""},
-        {FaultKind::LowerCase, ":010000020cf1.\r\n"},
-        {FaultKind::NoDot, echo + "\r\n"},
-        {FaultKind::LateDot, echo + "\r\n."},
-        {FaultKind::NoLineFeed, echo + ".\r"},
-        {FaultKind::Babble, ""},
-        {FaultKind::Slow, honest},
+    const std::tuple<FaultKind, std::string, bool> cases[] = {
+        {FaultKind::Silence, "", true},
+        {FaultKind::LowerCase, ":010000020cf1.\r\n", true},
+        {FaultKind::NoDot, echo + "\r\n", true},
+        {FaultKind::LateDot, echo + "\r\n.", true},
+        {FaultKind::NoLineFeed, echo + ".\r", true},
+        {FaultKind::Babble, "", true},
+        {FaultKind::Slow, honest, true},
         {FaultKind::Refused, echo + "Z\r\n", false},
         {FaultKind::HangUp, "", false},
         {FaultKind::PowerLost, "", false},
         {FaultKind::PowerLostHalf, "", false},
     };
-    for (const Case& one : cases) {
-        SCOPED_TRACE(FaultOf(one.kind).name);
+    for (const auto& [kind, reply, obeyed] : cases) {
+        SCOPED_TRACE(FaultOf(kind).name);
         Loader loader;
         FaultyDevice device(loader, 1);
-        device.Inject({one.kind, 2, false});
+        device.Inject({kind, 2, false});
         EXPECT_EQ(Send(device, "U"), "U");
-        EXPECT_EQ(Send(device, kCalibration), one.reply);
-        EXPECT_EQ(loader.ObeyedRecords().size(), one.obeyed ? 1u : 0u);
+        EXPECT_EQ(Send(device, kCalibration), reply);
+        EXPECT_EQ(loader.ObeyedRecords().size(), obeyed ? 1u : 0u);
         if (device.HungUp()) device.LineClosed();
         EXPECT_EQ(Send(device, "a line U" + kCalibration), "U" + honest);
         EXPECT_EQ(device.ExchangesSeen(), 5);
         ASSERT_EQ(device.Injections().size(), 1u);
         const Injection& done = device.Injections()[0];
-        EXPECT_EQ(std::tie(done.exchange, done.sent), std::tuple(2, one.reply));
-        EXPECT_EQ(done.honest, one.obeyed ? honest : "");
+        EXPECT_EQ(std::tie(done.exchange, done.sent, done.honest),
+                  std::tuple(2, reply, obeyed ? honest : ""));
     }
 }
 
 TEST(SimulatedFaults, PowerLostInAnEraseLeavesTheBlockOrHalfOfIt) {
-    const Flash untouched;
-    Flash halfErased;
-    halfErased.Erase({0, 0x1000});
+    Flash expected;
     for (const auto kind : {FaultKind::PowerLost, FaultKind::PowerLostHalf}) {
         Loader loader;
         FaultyDevice device(loader, 1);
         device.Inject({kind, 2, false});
         Send(device, kCalibration);
         EXPECT_EQ(Send(device, kErase1), "");
-        const Flash& expected = kind == FaultKind::PowerLost ? untouched : halfErased;
         EXPECT_TRUE(SameMemory(loader.Memory(), expected));
         EXPECT_EQ(Send(device, kErase1), kErase1 + "N\r\n");
+        expected.Erase({0, 0x1000});
     }
+}
+
+TEST(SimulatedWire, EachByteTakesItsTimeInBothDirections) {
+    using namespace std::chrono_literals;
+    EXPECT_EQ(kByteTime, 260417ns);
+    Loader loader;
+    Wire wire(loader);
+    const std::string record = ":00000001FF";
+    wire.HostSends(std::vector<std::uint8_t>(record.begin(), record.end()), 5ms);
+    Time due = 5ms + kByteTime;
+    for (const char byte : record + ".\r\n") {
+        due += kByteTime;
+        EXPECT_EQ(wire.ReadAtHost(due - 1ns), std::nullopt);
+        EXPECT_EQ(wire.ReadAtHost(due), byte);
+    }
+    EXPECT_EQ(wire.NextEvent(), std::nullopt);
 }
 
 }  // namespace
