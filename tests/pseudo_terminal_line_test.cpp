@@ -19,8 +19,6 @@ namespace {
 // Long enough for any machine; a test waits that long only to fail.
 constexpr int kPatience = 10'000;  // milliseconds
 
-const std::string kRecord = ":010000020CF1";
-
 UniqueFd OpenNow(const std::string& path) {
     return UniqueFd(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
 }
@@ -33,20 +31,20 @@ UniqueFd OpenWhenThere(const std::string& path) {
     return {};
 }
 
-// What the host reads: `count` bytes, or fewer when the line hangs up.
-std::string ReadAll(const UniqueFd& host, std::size_t count) {
-    std::string text;
-    while (text.size() < count) {
-        pollfd ready{host.Get(), POLLIN, 0};
-        char byte = 0;
-        if (::poll(&ready, 1, kPatience) != 1 || ::read(host.Get(), &byte, 1) != 1) break;
-        text.push_back(byte);
-    }
-    return text;
+// Waits until something is there to be read or the line has hung up.
+int Poll(const UniqueFd& host) {
+    pollfd state{host.Get(), POLLIN, 0};
+    return ::poll(&state, 1, kPatience) == 1 ? state.revents : 0;
 }
 
-void Write(const UniqueFd& host, const std::string& text) {
+// What the host reads when it has sent the text: `count` bytes, or fewer when the line hangs up.
+std::string Ask(const UniqueFd& host, const std::string& text, std::size_t count) {
     EXPECT_EQ(::write(host.Get(), text.data(), text.size()), std::ssize(text));
+    std::string answer;
+    char byte = 0;
+    while (answer.size() < count && Poll(host) != 0 && ::read(host.Get(), &byte, 1) == 1)
+        answer.push_back(byte);
+    return answer;
 }
 
 TEST(PseudoTerminalLine, IsRawAndAnswersOneHostAfterTheOther) {
@@ -60,8 +58,7 @@ TEST(PseudoTerminalLine, IsRawAndAnswersOneHostAfterTheOther) {
             termios settings{};
             ASSERT_EQ(::tcgetattr(host.Get(), &settings), 0);
             EXPECT_EQ(settings.c_lflag & (ECHO | ICANON | ISIG), 0u);
-            Write(host, "U" + kRecord);
-            EXPECT_EQ(ReadAll(host, 17), "U" + kRecord + ".\r\n");
+            EXPECT_EQ(Ask(host, "U:010000020CF1", 17), "U:010000020CF1.\r\n");
             EXPECT_EQ(line.WithDevice([&] { return loader.ObeyedRecords().size(); }), hosts);
         }
     }
@@ -74,19 +71,13 @@ TEST(PseudoTerminalLine, HangsUpAndComesBack) {
     device.Inject({FaultKind::HangUp, 2, true});
     PseudoTerminalLine line(device);
     const UniqueFd host = OpenWhenThere(line.DevicePath());
-    Write(host, "U");
-    EXPECT_EQ(ReadAll(host, 1), "U");
-    Write(host, "U");
-    EXPECT_EQ(ReadAll(host, 1), "");
-    pollfd state{host.Get(), POLLIN, 0};
-    EXPECT_EQ(::poll(&state, 1, kPatience), 1);
-    EXPECT_TRUE(state.revents & POLLHUP);
+    EXPECT_EQ(Ask(host, "U", 1), "U");
+    EXPECT_EQ(Ask(host, "U", 1), "");
+    EXPECT_TRUE(Poll(host) & POLLHUP);
     EXPECT_FALSE(OpenNow(line.DevicePath()));
 
     line.WithDevice([&] { device.ClearFaults(); });
-    const UniqueFd again = OpenWhenThere(line.DevicePath());
-    Write(again, "U");
-    EXPECT_EQ(ReadAll(again, 1), "U");
+    EXPECT_EQ(Ask(OpenWhenThere(line.DevicePath()), "U", 1), "U");
 }
 
 }  // namespace

@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "device/serial_port.h"
 
@@ -13,16 +15,16 @@ namespace keplin::test {
 
 class ScriptedPort : public SerialPort {
   public:
-    ~ScriptedPort() override { EXPECT_TRUE(script_.empty()) << "left: " << script_.front().call; }
+    ~ScriptedPort() override { EXPECT_TRUE(script_.empty()) << "left: " << script_.front().first; }
 
     // The next member called must be `call`, and gives `result`.
     ScriptedPort& Expect(std::string call, std::int32_t result = 0) {
-        script_.push_back({std::move(call), result, false});
+        script_.emplace_back(std::move(call), result);
         return *this;
     }
     // The next member called must be `call`, and fails.
     ScriptedPort& Fail(std::string call) {
-        script_.push_back({std::move(call), 0, true});
+        script_.emplace_back(std::move(call), std::nullopt);
         return *this;
     }
     ScriptedPort& ExpectDiscardStep() { return Expect("Setting47 -1").Expect("DiscardInput"); }
@@ -48,25 +50,19 @@ class ScriptedPort : public SerialPort {
     bool Lost = false;
 
   private:
-    struct Step {
-        std::string call;
-        std::int32_t result;
-        bool fails;
-    };
-
     std::int32_t Play(const std::string& call) {
-        if (script_.empty() || script_.front().call != call) {
+        if (script_.empty() || script_.front().first != call) {
             ADD_FAILURE() << "called: " << call << ", expected: "
-                          << (script_.empty() ? "nothing more" : script_.front().call);
+                          << (script_.empty() ? "nothing more" : script_.front().first);
             return -1;
         }
-        const Step step = script_.front();
+        const auto result = script_.front().second;
         script_.pop_front();
-        if (step.fails) throw PortError(call);
-        return step.result;
+        return result ? *result : throw PortError(call);
     }
 
-    std::deque<Step> script_;
+    // Each member, and what it gives: nothing when it fails.
+    std::deque<std::pair<std::string, std::optional<std::int32_t>>> script_;
 };
 
 }  // namespace keplin::test
