@@ -40,7 +40,6 @@ class VirtualDesktop : public Desktop {
     void Sleep(std::chrono::milliseconds duration) override {
         trace_.Add("Sleep " + std::to_string(duration.count()));
         Clock += duration;
-        Slept += duration;
     }
 
     std::chrono::milliseconds Now() override {
@@ -48,7 +47,8 @@ class VirtualDesktop : public Desktop {
     }
 
     std::optional<std::string> ShowOpen(const OpenFileRequest& request) override {
-        trace_.Add("ShowOpen " + request.filter);
+        trace_.Add("ShowOpen " + request.title + " " + request.initialDirectory + " " +
+                   request.filter);
         return Answer;
     }
 
@@ -78,7 +78,6 @@ class VirtualDesktop : public Desktop {
 
     Microseconds Clock{0};
     Microseconds Idle{2000};  // the longest that one yield waits while nothing happens
-    std::chrono::milliseconds Slept{0};
     long Yields = 0;
     bool Ticks = true;  // of the window's timer
     bool Awake = false;
