@@ -11,10 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-struct DeviceExchangeTest : testing::Test {
-    ISPMain window;
-    Trace trace;
-    VirtualDesktop desktop{window, trace};
+struct DeviceExchangeTest : testing::Test, VirtualScreen {
     ScriptedPort port;
     DeviceExchange controller{port, desktop};
 

@@ -9,10 +9,7 @@
 namespace keplin::test {
 namespace {
 
-struct PortSearchTest : testing::Test {
-    ISPMain window;
-    Trace trace;
-    VirtualDesktop desktop{window, trace};
+struct PortSearchTest : testing::Test, VirtualScreen {
     ScriptedPort port;
     DeviceExchange controller{port, desktop};
     PortSearch search{window, port, controller, desktop};

@@ -9,7 +9,8 @@
 namespace keplin::test {
 namespace {
 
-// Hears what a screen reader would be given: at each yield, and when a press is done.
+// Hears what a screen reader would be given, at each yield and when a press is done, and when the
+// technician is called.
 class Ear : public Observer {
   public:
     explicit Ear(Rig& rig) : rig_(rig) {
@@ -19,6 +20,7 @@ class Ear : public Observer {
 
     void Changed(const Control& control, Aspect aspect) override {
         texts_.Changed(control, aspect);
+        if (EndsAWait(rig_.window, control, aspect)) heard_ += "[call]\n";
     }
 
     void Listen() {
@@ -63,10 +65,11 @@ TEST(SpokenTexts, ARunThatStopsSaysSoAlsoWhenNoTextChanges) {
     const int before = device.ExchangesSeen();
     device.Inject({simulator::FaultKind::Refused, before + 11, false});
     const std::string stop = "Programming Failed at Line 2. The update has stopped.";
-    EXPECT_TRUE(ear.After(rig.window.Command1).ends_with("Programming Device\n" + stop + "\n"));
+    EXPECT_TRUE(
+        ear.After(rig.window.Command1).ends_with("Programming Device\n[call]\n" + stop + "\n"));
     EXPECT_EQ(rig.window.ProgressBar1.DoneText(), "line 1 of 4");
     device.Inject({simulator::FaultKind::Silence, device.ExchangesSeen() + 1, true});
-    EXPECT_EQ(ear.After(rig.window.Command1), stop + "\n");
+    EXPECT_EQ(ear.After(rig.window.Command1), "[call]\n" + stop + "\n");
     rig.window.PicProgram.Visible = false;
     EXPECT_EQ(ear.Latest(), "");  // what can no longer be seen
 }

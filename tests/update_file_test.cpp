@@ -10,10 +10,7 @@
 namespace keplin::test {
 namespace {
 
-struct UpdateFileTest : testing::Test {
-    ISPMain window;
-    Trace trace;
-    VirtualDesktop desktop{window, trace};
+struct UpdateFileTest : testing::Test, VirtualScreen {
     UpdateFile file{window, desktop};
     std::string path;  // of the file loaded last
 

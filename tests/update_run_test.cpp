@@ -1,12 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <tuple>
+
 #include "tests/support/data.h"
 #include "tests/support/rig.h"
 
 namespace keplin::test {
 namespace {
-
-using namespace std::chrono_literals;
 
 // From the start of the program to Finish: what changes in the window, what goes over the line, and
 // every pause.
@@ -26,56 +27,24 @@ TEST(UpdateRun, DoesEveryStepInItsOrder) {
     EXPECT_EQ(memory[4], 0xFF);
 }
 
-TEST(UpdateRun, SendsUpToTheFirstEmptySlotWhichMayBeTheFirst) {
-    struct Case {
-        const char* file;
-        float lines;
-        const char* lastSent;
-    };
-    for (const Case& one :
-         {Case{":0400000001020304F2\r\n\r\n:022000005AA5DF\r\n", 3, ":0400000001020304F2"},
-          Case{"", 0, ":010000020CF1"}}) {
+TEST(UpdateRun, SendsUpToTheFirstEmptySlotOrTheLastOfTenThousandAndOne) {
+    const std::string end = ":00000001FF\r";
+    std::string all;
+    for (int slot = 0; slot <= 10000; ++slot)
+        all += end;
+    const std::tuple<std::string, int, int> cases[] = {
+        {"", 0, 0}, {end + "\r" + end, 3, 1}, {all, 10001, 10001}};
+    for (const auto& [contents, lines, sent] : cases) {
         Rig rig;
-        const TemporaryFile file(one.file);
+        rig.trace.Recording = false;
+        const TemporaryFile file(contents);
         rig.ReachProgramPage(file.Path());
         rig.window.Command1.Press();
         EXPECT_TRUE(rig.Completed());
-        EXPECT_EQ(rig.window.ProgressBar1.Max, one.lines);
-        EXPECT_EQ(rig.loader.ObeyedRecords().back(), one.lastSent);
+        EXPECT_EQ(rig.window.ProgressBar1.Max, lines);
+        EXPECT_EQ(rig.window.ProgressBar1.Value, std::max(sent - 1, 0));
+        EXPECT_EQ(std::ssize(rig.loader.ObeyedRecords()), 6 + sent);
     }
-}
-
-TEST(UpdateRun, SendsTheLastOfTenThousandAndOneSlots) {
-    Rig rig;
-    std::string lines;
-    for (int i = 0; i < 10001; ++i)
-        lines += ":00000001FF\r";
-    const TemporaryFile file(lines);
-    rig.trace.Recording = false;
-    rig.ReachProgramPage(file.Path());
-    rig.window.Command1.Press();
-    EXPECT_TRUE(rig.Completed());
-    EXPECT_EQ(rig.window.ProgressBar1.Max, 10001);
-    EXPECT_EQ(rig.window.ProgressBar1.Value, 10000);
-    EXPECT_EQ(rig.loader.ObeyedRecords().size(), 3U + 3U + 10001U);
-}
-
-TEST(UpdateRun, StopsAtTheFirstLineThatIsNotAcknowledged) {
-    Rig rig;
-    TemporaryFile file(":0400000001020304F2\r\n:01000000AA00\r\n:022000005AA5DF\r\n");
-    rig.ReachProgramPage(file.Path());
-    rig.desktop.OnYield = [&] { EXPECT_EQ(rig.desktop.Awake, rig.window.Command1.Shown()); };
-    rig.window.Command1.Press();
-    EXPECT_FALSE(rig.Completed());
-    EXPECT_EQ(rig.window.lblPrgm.Caption.Get(), "Programming Failed at Line 2");
-    EXPECT_TRUE(rig.window.lblPrgm.Shown());
-    EXPECT_EQ(rig.window.ProgressBar1.Value, 0);
-    EXPECT_EQ(rig.port.Sent.back(), ":01000000AA00");
-    EXPECT_TRUE(rig.window.cmdExit.CanBePressed());
-    EXPECT_TRUE(rig.window.Command1.CanBePressed());
-    EXPECT_FALSE(rig.window.Shape2.Visible);
-    EXPECT_FALSE(rig.window.Timer1.Enabled);
-    EXPECT_FALSE(rig.desktop.Awake);
 }
 
 // Keeping awake is a favour. Anything else that fails ends the operation, and the next one can

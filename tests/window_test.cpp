@@ -33,27 +33,6 @@ TEST(Window, AFailedSearchSaysSoAndLeavesNextAsItWas) {
     }
 }
 
-// Counts how often the technician is called.
-struct Calls : Observer {
-    explicit Calls(ISPMain& model) : window(model) { window.Observe(this); }
-    void Changed(const Control& control, Aspect aspect) override {
-        count += EndsAWait(window, control, aspect) ? 1 : 0;
-    }
-    ISPMain& window;
-    int count = 0;
-};
-
-TEST(Window, TheEndOfAPortTestAndOfARunCallsTheTechnicianOnce) {
-    Rig rig;
-    const TemporaryFile file(kSmallFile);
-    const Calls calls(rig.window);
-    rig.ReachProgramPage(file.Path());
-    EXPECT_EQ(calls.count, 1);
-    rig.window.Command1.Press();
-    EXPECT_TRUE(rig.Completed());
-    EXPECT_EQ(calls.count, 2);
-}
-
 TEST(Window, AnUpdateFileThatDoesNotLoadLeavesOnlyClose) {
     Rig rig;
     rig.ReachProgramPage("/nowhere");

@@ -57,13 +57,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view record = text.substr(0, std::size_t{data[0]} + 1);
     const std::string_view reply = text.substr(record.size());
 
-    keplin::ISPMain window;
-    keplin::test::Trace trace;
-    trace.Recording = false;
-    keplin::test::VirtualDesktop desktop(window, trace);
-    desktop.Idle = std::chrono::seconds(1);
+    keplin::test::VirtualScreen screen;
+    screen.trace.Recording = false;
+    screen.desktop.Idle = std::chrono::seconds(1);
     FixedReply port(reply);
-    keplin::DeviceExchange controller(port, desktop);
+    keplin::DeviceExchange controller(port, screen.desktop);
     if (controller.SendDataLine(record) != Expected(record, reply)) std::abort();
     return 0;
 }

@@ -53,11 +53,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Demand(ftruncate(file, 0) == 0);
     Demand(pwrite(file, data, size, 0) == static_cast<ssize_t>(size));
 
-    keplin::ISPMain window;
-    keplin::test::Trace trace;
-    keplin::test::VirtualDesktop desktop(window, trace);
-    desktop.Answer = "/proc/self/fd/" + std::to_string(file);
-    UpdateFile update(window, desktop);
+    keplin::test::VirtualScreen screen;
+    screen.desktop.Answer = "/proc/self/fd/" + std::to_string(file);
+    UpdateFile update(screen.window, screen.desktop);
     const bool loaded = update.LoadUpdateFile();
     Check(update, LinesOf({reinterpret_cast<const char*>(data), size}), loaded);
     return 0;

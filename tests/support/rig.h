@@ -8,7 +8,6 @@
 #include "handlers/handlers.h"
 #include "simulator/loader.h"
 #include "tests/support/temporary_file.h"
-#include "tests/support/trace.h"
 #include "tests/support/virtual_desktop.h"
 #include "tests/support/virtual_port.h"
 
@@ -18,7 +17,7 @@ namespace keplin::test {
 inline constexpr std::string_view kSmallFile =
     ":0400000001020304F2\r\n:022000005AA5DF\r\n:017FFF00423F\r\n:00000001FF\r\n";
 
-struct Rig {
+struct Rig : VirtualScreen {
     // `device` is what the wire ends at, in place of the rig's own loader.
     explicit Rig(simulator::DeviceEnd* device = nullptr)
         : port(device != nullptr ? *device : loader, desktop) {
@@ -41,9 +40,6 @@ struct Rig {
         return window.Frame2.Caption.Get() == "Update Complete";
     }
 
-    ISPMain window;
-    Trace trace;
-    VirtualDesktop desktop{window, trace};
     simulator::Loader loader;
     VirtualPort port;
     Handlers handlers{window, port, desktop};

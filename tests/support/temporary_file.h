@@ -22,13 +22,10 @@ class TemporaryFile {
     [[nodiscard]] std::string Path() const { return path_.string(); }
 
   private:
-    static std::filesystem::path NewPath() {
-        static int count = 0;
-        return std::filesystem::temp_directory_path() /
-               ("keplin-test-" + std::to_string(getpid()) + "-" + std::to_string(++count) + ".HEX");
-    }
-
-    const std::filesystem::path path_ = NewPath();
+    inline static int count_ = 0;
+    const std::filesystem::path path_ =
+        std::filesystem::temp_directory_path() /
+        ("keplin-test-" + std::to_string(getpid()) + "-" + std::to_string(++count_) + ".HEX");
 };
 
 }  // namespace keplin::test

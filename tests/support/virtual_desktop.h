@@ -63,6 +63,7 @@ class VirtualDesktop : public Desktop {
 
     void KeepAwake(bool awake) override {
         if (AwakeFails) throw std::runtime_error("no thread left");
+        trace_.Add(awake ? "KeepAwake" : "MaySleep");
         AwakeTwice = AwakeTwice || (awake && Awake);
         Awake = awake;
     }
@@ -94,6 +95,13 @@ class VirtualDesktop : public Desktop {
     ISPMain& window_;
     Trace& trace_;
     Microseconds nextTick_{0};
+};
+
+// A window's model that is at home on it.
+struct VirtualScreen {
+    ISPMain window;
+    Trace trace;
+    VirtualDesktop desktop{window, trace};
 };
 
 }  // namespace keplin::test
