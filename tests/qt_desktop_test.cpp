@@ -27,20 +27,6 @@ namespace {
 
 using QtDesktopTest = QtWindow;
 
-class WhenPainted : public QObject {
-  public:
-    WhenPainted(QWidget& widget, std::function<void()> act) : act_(std::move(act)) {
-        widget.installEventFilter(this);
-    }
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint) act_();
-        return false;
-    }
-
-  private:
-    const std::function<void()> act_;
-};
-
 TEST_F(QtDesktopTest, TheTimerTicksWhileItIsEnabled) {
     int ticks = 0;
     model.Timer1.OnTimer = [&] { ++ticks; };
@@ -54,10 +40,7 @@ TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
     std::array<int, 2> line{};
     ASSERT_EQ(pipe(line.data()), 0);
     bool awaited = false;
-    QtDesktop waiting(window, {.awaitsByte = [&] { return std::exchange(awaited, false); },
-                               .hungUp = {},
-                               .openFile = {},
-                               .beforeEnd = {}});
+    QtDesktop waiting(window, {.awaitsByte = [&] { return std::exchange(awaited, false); }});
     waiting.WatchLine(line[0]);
     const auto fiftyYields = [&](bool wait) {
         const auto start = waiting.Now();
@@ -81,7 +64,7 @@ TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
 TEST_F(QtDesktopTest, WhatWasSetIsPaintedAndHandedOverBeforeASleepWhichHandlesNoEvent) {
     std::vector<std::string> happened;
     const auto note = [&](const char* what) { happened.emplace_back(what); };
-    WhenPainted painted(*Find(model.Label9), [&] { note("painted"); });
+    const WhenPainted painted(*Find(model.Label9), [&] { note("painted"); });
     const auto* dispatcher = QAbstractEventDispatcher::instance();
     QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, &window,
                      [&] { note("handed over"); });
@@ -115,14 +98,12 @@ class QtDialogTest : public QtWindow {
             auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
             EXPECT_EQ(name->completer(), nullptr);
             EXPECT_TRUE(Until([&] { return name->hasFocus() && NamesIn(dialog) == "a"; }));
-            const auto press = [&](int key, const QString& letter) {
-                QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, letter);
+            for (const char letter : text + "\r") {
+                const int key = letter == '\r' ? Qt::Key_Return : Qt::Key_unknown;
+                QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(letter));
                 QCoreApplication::sendEvent(name, &event);
                 desktop.Yield();
-            };
-            for (const char letter : text)
-                press(0, QString(letter));
-            press(Qt::Key_Return, "\r");
+            }
         });
     }
 
@@ -184,11 +165,9 @@ TEST_F(QtDesktopTest, WhereTheWorkingDirectoryWasDeletedHomeStandsInForIt) {
 }
 
 TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
-    const QtDesktop::Hooks hooks{.awaitsByte = {},
-                                 .hungUp = {},
-                                 .openFile = [](const auto& request) { return request.title; },
-                                 .beforeEnd = {}};
-    EXPECT_EQ(QtDesktop(window, hooks).ShowOpen({"", "typed", "", false}), "typed");
+    QtDesktop other(window, {.openFile = [](const auto& request) { return request.title; },
+                             .beforeEnd = [] { return 3; }});
+    EXPECT_EQ(other.ShowOpen({"", "typed", "", false}), "typed");
     EXPECT_THROW(desktop.FileLength("/nowhere/to/be/found"), std::runtime_error);
     EXPECT_THROW(desktop.FileDateTime("/nowhere/to/be/found"), std::runtime_error);
     QTemporaryFile file;
@@ -200,11 +179,7 @@ TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
                   QLocale::system().toString(time, QLocale::ShortFormat).toStdString());
     }
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(
-        QtDesktop(window,
-                  {.awaitsByte = {}, .hungUp = {}, .openFile = {}, .beforeEnd = [] { return 3; }})
-            .End(),
-        testing::ExitedWithCode(3), "");
+    EXPECT_EXIT(other.End(), testing::ExitedWithCode(3), "");
 }
 
 }  // namespace

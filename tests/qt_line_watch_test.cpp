@@ -1,10 +1,10 @@
 // The open serial line on the window's event loop.
-#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <QAbstractEventDispatcher>
 #include <QEventLoop>
 #include <QTimer>
+#include <optional>
 
 #include "tests/support/pseudo_terminal.h"
 #include "tests/support/qt_window.h"
@@ -17,10 +17,9 @@ using LineWatch = QtWindow;
 // A click may open a dialog in the midst of a wait, which then waits itself.
 TEST_F(LineWatch, AByteThatNobodyReadsKeepsNoLoopInsideAWaitBusy) {
     const PseudoTerminal far;
-    const UniqueFd line(open(far.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK));
+    const UniqueFd line = OpenLine(far.Path());
     far.Send("U\n");
-    QtDesktop waiting(
-        window, {.awaitsByte = [] { return true; }, .hungUp = {}, .openFile = {}, .beforeEnd = {}});
+    QtDesktop waiting(window, {.awaitsByte = [] { return true; }});
     waiting.WatchLine(line.Get());
     int rounds = 0;
     QTimer::singleShot(0, &window, [&] {
@@ -37,22 +36,18 @@ TEST_F(LineWatch, AByteThatNobodyReadsKeepsNoLoopInsideAWaitBusy) {
 
 TEST_F(LineWatch, AHangUpIsToldOnceByTheEventLoopAloneAndNoUnreadByteIsTakenForOne) {
     PseudoTerminal far;
-    UniqueFd line(open(far.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK));
+    UniqueFd line = OpenLine(far.Path());
     int told = 0;
-    QtDesktop* watching = nullptr;
-    QtDesktop atRest(window, {.awaitsByte = {},
-                              .hungUp =
-                                  [&] {
-                                      ++told;
-                                      watching->WatchLine(-1);
-                                      line.Reset();
-                                  },
-                              .openFile = {},
-                              .beforeEnd = {}});
-    watching = &atRest;
-    atRest.WatchLine(line.Get());
+    std::optional<QtDesktop> atRest;
+    const auto hungUp = [&] {
+        ++told;
+        atRest->WatchLine(-1);
+        line.Reset();
+    };
+    atRest.emplace(window, QtDesktop::Hooks{.hungUp = hungUp});
+    atRest->WatchLine(line.Get());
     far.Send("noise\n");
-    ASSERT_TRUE(PseudoTerminal::IsReadable(line.Get()));
+    ASSERT_TRUE(IsReadable(line.Get()));
     QCoreApplication::processEvents();
     EXPECT_EQ(told, 0);
     far.HangUp();

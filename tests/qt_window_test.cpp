@@ -167,23 +167,14 @@ TEST_F(QtWindow, AskedToCloseItAsksTheModel) {
     EXPECT_TRUE(window.isVisible());
 }
 
-class PaintCounter : public QObject {
-  public:
-    bool eventFilter(QObject*, QEvent* event) override {
-        Paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int Paints = 0;
-};
-
 TEST_F(QtWindow, TheProgressBarIsRepaintedNowAndThenAndAtTheEnd) {
     Show(model.PicProgram);
     model.ProgressBar1.Max = 1000;
     auto* bar = Find<QProgressBar>(model.ProgressBar1);
     EXPECT_FALSE(bar->isTextVisible());
     Until([&] { return bar->value() == 0; });
-    PaintCounter counter;
-    bar->installEventFilter(&counter);
+    int paints = 0;
+    const WhenPainted counter(*bar, [&] { ++paints; });
     const auto start = std::chrono::steady_clock::now();
     for (int i = 1; i <= 500; ++i) {
         model.ProgressBar1.Value = static_cast<float>(i);
@@ -191,8 +182,8 @@ TEST_F(QtWindow, TheProgressBarIsRepaintedNowAndThenAndAtTheEnd) {
     }
     EXPECT_TRUE(Until([&] { return bar->value() == bar->maximum() / 2; }));
     const auto passed = std::chrono::steady_clock::now() - start;
-    EXPECT_LE(counter.Paints, 2 + passed / std::chrono::milliseconds(33));
-    EXPECT_GE(counter.Paints, 1);
+    EXPECT_LE(paints, 2 + passed / std::chrono::milliseconds(33));
+    EXPECT_GE(paints, 1);
     model.ProgressBar1.Max = 0;  // Qt would show an empty range as busy
     EXPECT_TRUE(Until([&] { return bar->value() == 0; }));
     EXPECT_GT(bar->maximum(), 0);
@@ -220,30 +211,30 @@ TEST_F(QtWindow, PanelsShareTheirBarAndShortenALongPath) {
 }
 
 TEST_F(QtWindow, AScreenReaderFindsANameOnEveryControl) {
-    const auto read = [this](const Control& control, QAccessible::Text text = QAccessible::Name) {
-        return QAccessible::queryAccessibleInterface(Find(control))->text(text).toStdString();
-    };
     for (const Control* control : model.Controls()) {
         const QWidget* widget = Find(*control);
         if (qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget) ||
             qobject_cast<const QGroupBox*>(widget)) {
-            EXPECT_NE(read(*control), "") << control->Name;
+            EXPECT_NE(Read(*control), "") << control->Name;
         }
     }
-    EXPECT_EQ(read(model.ProgressBar1), "Progress of the update");
+    EXPECT_EQ(Read(model.ProgressBar1), "Progress of the update");
     model.ProgressBar1.Value = 33;
-    EXPECT_EQ(read(model.ProgressBar1, QAccessible::Value), "33 %");
+    EXPECT_EQ(Read(model.ProgressBar1, QAccessible::Value), "33 %");
     QHelpEvent hover(QEvent::ToolTip, {}, {});
     QCoreApplication::sendEvent(Find(model.ProgressBar1), &hover);
     EXPECT_EQ(QToolTip::text(), "33 %");
-    EXPECT_EQ(read(model.lblResults), "Result of the port test");
+    model.ProgressBar1.Counts = ProgressBar::Unit::Lines;
+    model.ProgressBar1.Max = 4000;
+    EXPECT_EQ(Read(model.ProgressBar1, QAccessible::Description), "line 34 of 4,000");
+    EXPECT_EQ(Read(model.lblResults), "Result of the port test");
     model.lblResults.Caption = "Query to Port 1";
     model.StatusBar2.Panels(3).Text = "Checksum: A";
     model.cmdExit.Caption = "Finish & Go";
-    EXPECT_EQ(read(model.lblResults), "Query to Port 1");
-    EXPECT_EQ(read(model.StatusBar2.Panels(3)), "Checksum: A");
-    EXPECT_EQ(read(model.StatusBar2.Panels(3), QAccessible::Description), "Checksum");
-    EXPECT_EQ(read(model.cmdExit), "Finish & Go");
+    EXPECT_EQ(Read(model.lblResults), "Query to Port 1");
+    EXPECT_EQ(Read(model.StatusBar2.Panels(3)), "Checksum: A");
+    EXPECT_EQ(Read(model.StatusBar2.Panels(3), QAccessible::Description), "Checksum");
+    EXPECT_EQ(Read(model.cmdExit), "Finish & Go");
 }
 
 }  // namespace

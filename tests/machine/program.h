@@ -25,8 +25,7 @@ class MachineDesktop : public qt::QtDesktop {
     MachineDesktop(QWidget& window, PosixPort& port)
         : QtDesktop(window, {.awaitsByte = [&port] { return port.TakeIdle(); },
                              .hungUp = [&port] { port.CheckLine(); },
-                             .openFile = [this](const auto&) { return File; },
-                             .beforeEnd = {}}) {
+                             .openFile = [this](const auto&) { return File; }}) {
         port.OnLineChange = [this](int line) { WatchLine(line_ = line); };
     }
 

@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <chrono>
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "ui/qt/main_window.h"
 #include "ui/qt/qt_desktop.h"
@@ -14,6 +17,21 @@
 namespace keplin::test {
 
 using qt::QtDesktop;
+
+// Acts each time the widget is painted.
+class WhenPainted : public QObject {
+  public:
+    WhenPainted(QWidget& widget, std::function<void()> act) : act_(std::move(act)) {
+        widget.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) act_();
+        return false;
+    }
+
+  private:
+    const std::function<void()> act_;
+};
 
 // The window with its getting-started page, on the offscreen desktop.
 class QtWindow : public testing::Test {
@@ -45,6 +63,11 @@ class QtWindow : public testing::Test {
     template <typename Widget = QWidget>
     Widget* Find(const Control& control) {
         return window.findChild<Widget*>(QString::fromStdString(control.Name));
+    }
+
+    // What a screen reader is told of the control.
+    std::string Read(const Control& control, QAccessible::Text text = QAccessible::Name) {
+        return QAccessible::queryAccessibleInterface(Find(control))->text(text).toStdString();
     }
 
     // Some pixel of the control as the window shows it, or of its uppermost rows, is of this colour

@@ -17,13 +17,13 @@ class QtDesktop : public Desktop {
     struct Hooks {
         // Whether a byte of the open line is awaited, so that this yield may wait for it. Asked at
         // each yield; having said so once, it does not again until the line was read.
-        std::function<bool()> awaitsByte;
+        std::function<bool()> awaitsByte = {};
         // The open line hung up; it is to be closed.
-        std::function<void()> hungUp;
+        std::function<void()> hungUp = {};
         // Answers in place of the open-file dialog.
-        std::function<std::optional<std::string>(const OpenFileRequest&)> openFile;
+        std::function<std::optional<std::string>(const OpenFileRequest&)> openFile = {};
         // Runs right before the program ends and gives its exit code, which is 0 without it.
-        std::function<int()> beforeEnd;
+        std::function<int()> beforeEnd = {};
     };
 
     // `window` is the one that dialogs stand over; it must outlive the desktop.
