@@ -1,6 +1,5 @@
 // The serial adapter on real pseudo-terminals, whose far end the tests hold.
 #include <gtest/gtest.h>
-#include <netinet/in.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -9,6 +8,7 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <optional>
 #include <thread>
 #include <vector>
@@ -17,6 +17,7 @@
 #include "device/posix/prompt_close.h"
 #include "tests/support/open_port.h"
 #include "tests/support/pseudo_terminal.h"
+#include "tests/support/temporary_file.h"
 
 namespace keplin::test {
 namespace {
@@ -29,16 +30,11 @@ constexpr std::uint8_t kPing = 0x55;
 class SerialAdapter : public ::testing::Test {
   protected:
     SerialAdapter() {
-        fs::create_directory(folder_);
         Plug(*far_);
         port_.OnLineChange = [this](int line) {
             EXPECT_TRUE(line >= 0 || IsOpen(line_)) << "told too late";
             line_ = line;
         };
-    }
-    void TearDown() override {
-        port_.Close();
-        fs::remove_all(folder_);
     }
 
     static bool IsOpen(int descriptor) { return fcntl(descriptor, F_GETFD) != -1; }
@@ -49,7 +45,7 @@ class SerialAdapter : public ::testing::Test {
         fs::create_symlink(line.Path(), device_);
     }
 
-    bool ByteComes() { return port_.TakeIdle() && PseudoTerminal::IsReadable(line_); }
+    bool ByteComes() { return port_.TakeIdle() && IsReadable(line_); }
 
     std::string Read(std::size_t count) {
         std::string bytes;
@@ -61,18 +57,8 @@ class SerialAdapter : public ::testing::Test {
         return bytes;
     }
 
-    // `line` is the descriptor that the port had.
-    void ExpectLost(int line) {
-        EXPECT_TRUE(port_.LineLost());
-        EXPECT_EQ(port_.ReadByte(), -1);
-        EXPECT_FALSE(port_.TakeIdle()) << "a dead line is always ready";
-        EXPECT_EQ(line_, -1);
-        EXPECT_FALSE(IsOpen(line)) << "the adapter could not get its name back";
-        EXPECT_THROW(port_.WriteText(":"), PortError);
-    }
-
-    const fs::path folder_ =
-        fs::temp_directory_path() / ("keplin-serial-" + std::to_string(getpid()));
+    const TemporaryFolder temporary_;
+    const fs::path folder_ = temporary_.Path();
     const fs::path device_ = folder_ / "ttyUSB0";
     std::optional<PseudoTerminal> far_{std::in_place};
     int line_ = -1;  // the descriptor that is to be watched
@@ -171,48 +157,32 @@ TEST_F(SerialAdapter, ALongTextThatIsTakenInPiecesArrivesWhole) {
     EXPECT_EQ(received.size(), text.size());
 }
 
-TEST_F(SerialAdapter, NoticesAHangUpInEachStepOfAnExchange) {
-    const auto openLine = [this] {
+TEST_F(SerialAdapter, NoticesAHangUpInEachStepOfAnExchangeAndAtRest) {
+    const std::function<void()> steps[] = {
+        [&] { port_.DiscardInput(); }, [&] { EXPECT_THROW(port_.WriteText(":"), PortError); },
+        [&] { EXPECT_TRUE(ByteComes() && port_.ReadByte() == -1) << "the wait goes on"; },
+        [&] { port_.CheckLine(); }};
+    for (const auto& step : steps) {
+        SCOPED_TRACE(&step - steps);
         Plug(far_.emplace());
-        EXPECT_GT(OpenPort(port_, 2), 0);
+        ASSERT_GT(OpenPort(port_, 2), 0);
         EXPECT_FALSE(port_.LineLost());
-        return line_;
-    };
-    {
-        SCOPED_TRACE("before the discard");
-        const int line = openLine();
-        far_->HangUp();
-        port_.DiscardInput();
-        ExpectLost(line);
-    }
-    {
-        SCOPED_TRACE("before the write");
-        const int line = openLine();
-        far_->HangUp();
-        EXPECT_THROW(port_.WriteText(":"), PortError);
-        ExpectLost(line);
-    }
-    {
-        SCOPED_TRACE("within the reply");
-        const int line = openLine();
         port_.WriteText(":01");
         far_->Send(":0");
         EXPECT_EQ(Read(2), ":0");
-        far_->HangUp();
-        EXPECT_TRUE(ByteComes()) << "the wait goes on";
-        EXPECT_EQ(port_.ReadByte(), -1);
-        ExpectLost(line);
-    }
-    {
-        SCOPED_TRACE("at rest");
-        const int line = openLine();
         far_->Send("noise");
-        ASSERT_TRUE(PseudoTerminal::IsReadable(line));
+        const int line = line_;
+        ASSERT_TRUE(IsReadable(line));
         port_.CheckLine();
         EXPECT_FALSE(port_.LineLost());
         far_->HangUp();
-        port_.CheckLine();
-        ExpectLost(line);
+        step();
+        EXPECT_TRUE(port_.LineLost());
+        EXPECT_EQ(port_.ReadByte(), -1);
+        EXPECT_FALSE(port_.TakeIdle()) << "a dead line is always ready";
+        EXPECT_EQ(line_, -1);
+        EXPECT_FALSE(IsOpen(line)) << "the adapter could not get its name back";
+        EXPECT_THROW(port_.WriteText(":"), PortError);
     }
     port_.Close();
     EXPECT_FALSE(port_.LineLost());
@@ -235,26 +205,21 @@ TEST_F(SerialAdapter, AnIdleLineThatReadsAsEndedIsNotLost) {
 
 TEST_F(SerialAdapter, StaysAwayFromAPortThatARunningProcessHasLocked) {
     const fs::path lock = folder_ / "LCK..ttyUSB0";
+    const pid_t self = getpid();
     const pid_t ended = fork();
     if (ended == 0) _exit(0);
     waitpid(ended, nullptr, 0);
-    const auto openLockedBy = [&](std::string_view contents) {
-        std::ofstream(lock, std::ios::binary) << contents;
-        return OpenAnother(device_, folder_);
-    };
-    const auto bytesOf = [](pid_t process) {
-        return std::string(reinterpret_cast<const char*>(&process), sizeof process);
-    };
-    EXPECT_EQ(openLockedBy("         1\n"), 0);
-    if (getuid() == 0) {
-        EXPECT_EQ(OpenAsNobody(device_, folder_), 0) << "another user's process";
+    const std::string bytes(reinterpret_cast<const char*>(&self), sizeof self);
+    const std::string text = std::to_string(self) + " terminal user\n";
+    const std::string leftBehind = std::to_string(ended) + "\n";
+    const std::vector<std::string> owners{leftBehind, "", "0\n", "-1\n", "no number", text, bytes};
+    for (const std::string& owner : owners) {
+        std::ofstream(lock, std::ios::binary) << owner;
+        EXPECT_EQ(OpenAnother(device_, folder_), owner == text || owner == bytes ? 0 : 1) << owner;
     }
-    EXPECT_EQ(openLockedBy(std::to_string(getpid()) + " terminal user\n"), 0);
-    EXPECT_EQ(openLockedBy(bytesOf(getpid())), 0);
-    EXPECT_EQ(openLockedBy(std::to_string(ended) + "\n"), 1) << "left behind";
-    for (const char* other : {"", "0\n", "-1\n", "no number"}) {
-        EXPECT_EQ(openLockedBy(other), 1) << other;
-    }
+    std::ofstream(lock) << "         1\n";
+    EXPECT_EQ(OpenAnother(device_, folder_), 0);
+    EXPECT_TRUE(getuid() != 0 || OpenAsNobody(device_, folder_) == 0) << "another user's process";
     fs::remove(lock);
     ASSERT_EQ(mkfifo(lock.c_str(), 0600), 0);
     EXPECT_EQ(OpenAnother(device_, folder_), 1) << "nobody writes into it";
@@ -263,16 +228,12 @@ TEST_F(SerialAdapter, StaysAwayFromAPortThatARunningProcessHasLocked) {
 // No pseudo-terminal makes its closing wait; this socket does, for a reader who takes nothing.
 TEST(PromptClose, DoesNotWaitForADeviceThatTakesNoBytes) {
     const UniqueFd listener(socket(AF_INET, SOCK_STREAM, 0));
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* generic = reinterpret_cast<sockaddr*>(&address);
-    ASSERT_EQ(bind(listener.Get(), generic, size), 0);
-    ASSERT_EQ(getsockname(listener.Get(), generic, &size), 0);
     ASSERT_EQ(listen(listener.Get(), 1), 0);
+    sockaddr address{};
+    socklen_t size = sizeof address;
+    ASSERT_EQ(getsockname(listener.Get(), &address, &size), 0);
     UniqueFd line(socket(AF_INET, SOCK_STREAM, 0));
-    ASSERT_EQ(connect(line.Get(), generic, size), 0);
+    ASSERT_EQ(connect(line.Get(), &address, size), 0);
     const linger wait{1, 30};
     ASSERT_EQ(setsockopt(line.Get(), SOL_SOCKET, SO_LINGER, &wait, sizeof wait), 0);
     const std::string bytes(1 << 20, ':');

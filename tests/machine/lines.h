@@ -2,11 +2,9 @@
 // controller at a line's far end.
 #pragma once
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <termios.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <chrono>
@@ -18,9 +16,10 @@
 #include <utility>
 #include <vector>
 
-#include "platform/posix/unique_fd.h"
+#include "demo/file_image.h"
 #include "simulator/loader.h"
 #include "simulator/wire.h"
+#include "tests/support/pseudo_terminal.h"
 
 namespace keplin::test {
 
@@ -28,7 +27,7 @@ using namespace std::chrono_literals;
 
 // A raw line at 38400 bit/s, open beside whoever else has it: root is not kept out.
 inline UniqueFd OpenRaw(const std::string& path) {
-    UniqueFd line{::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)};
+    UniqueFd line = OpenLine(path);
     termios settings{};
     EXPECT_EQ(tcgetattr(line.Get(), &settings), 0) << path;
     cfmakeraw(&settings);
@@ -49,10 +48,7 @@ bool Soon(Condition&& condition) {
 
 // A device has its name a moment before it can be opened.
 inline bool Appears(const std::string& device) {
-    return Soon([&] {
-        return UniqueFd{::open(device.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)}.Get() >=
-               0;
-    });
+    return Soon([&] { return static_cast<bool>(OpenLine(device)); });
 }
 
 // Takes the adapter of the line to ttyS2 out of its socket, or puts it back.
@@ -98,12 +94,15 @@ class Controller {
     Controller(const Controller&) = delete;
     Controller& operator=(const Controller&) = delete;
 
-    // What its memory holds when it leaves the line.
-    std::vector<std::uint8_t> Leave() {
+    void Leave() {
         leaving_ = true;
         if (thread_.joinable()) thread_.join();
-        const auto cells = loader_.Memory().Cells();
-        return {cells.begin(), cells.end()};
+    }
+
+    // Leaves the line: its memory is what the file describes.
+    void ExpectToHold(const std::string& file) {
+        Leave();
+        EXPECT_TRUE(std::ranges::equal(loader_.Memory().Cells(), ImageOfFile(file)));
     }
 
   private:

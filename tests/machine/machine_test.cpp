@@ -8,7 +8,6 @@
 #include <optional>
 #include <tuple>
 
-#include "demo/file_image.h"
 #include "tests/machine/lines.h"
 #include "tests/machine/program.h"
 #include "tests/support/open_port.h"
@@ -59,7 +58,7 @@ TEST_P(EachDriver, UpdatesWhateverTheLineWasSetTo) {
     settings.c_cflag |= CS7 | PARENB | CSTOPB | CRTSCTS;
     cfsetspeed(&settings, B9600);
     ASSERT_EQ(tcsetattr(former.Get(), TCSANOW, &settings), 0);
-    ASSERT_EQ(write(farEnd.Get(), "\x13", 1), 1);
+    Send(farEnd, "\x13");
     std::this_thread::sleep_for(200ms);
 
     Controller controller(far);
@@ -71,11 +70,10 @@ TEST_P(EachDriver, UpdatesWhateverTheLineWasSetTo) {
     EXPECT_EQ(settings.c_cflag & (CSIZE | PARENB | CSTOPB | CRTSCTS | CLOCAL | CREAD),
               tcflag_t{CS8 | CLOCAL | CREAD});
     EXPECT_TRUE(program.Update());
-    EXPECT_TRUE(controller.Leave() == ImageOfFile(file.Path())) << "the memory is wrong";
+    controller.ExpectToHold(file.Path());
 }
 
-INSTANTIATE_TEST_SUITE_P(Machine, EachDriver, testing::Values("ttyS0", "ttyUSB0", "ttyACM0"),
-                         [](const auto& device) { return std::string(device.param); });
+INSTANTIATE_TEST_SUITE_P(Machine, EachDriver, testing::Values("ttyS0", "ttyUSB0", "ttyACM0"));
 
 int Unsent(const std::string& device) {
     int count = 0;
@@ -113,8 +111,7 @@ TEST(Machine, ALineErrorReadsAsAZeroAndSpoilsOnlyTheReplyItIsIn) {
     const Gadget gadget("/dev/ttyUSB1");
     const UniqueFd farEnd = OpenRaw("/dev/ttyGS0");
     const auto send = [&](LineState state, const std::string& bytes) {
-        const std::string packet = std::string{'\x01', state} + bytes;
-        EXPECT_EQ(write(farEnd.Get(), packet.data(), packet.size()), ssize_t(packet.size()));
+        Send(farEnd, std::string{'\x01', state} + bytes);
         std::this_thread::sleep_for(20ms);
     };
     Program program(Only("/dev/ttyUSB1"));
@@ -177,17 +174,13 @@ TEST_P(Replug, ASecondTryCompletes) {
     PlugIn(true);
     EXPECT_TRUE(Appears(newName ? "/dev/ttyUSB1" : "/dev/ttyUSB0"));
     EXPECT_TRUE(program.Update());
-    EXPECT_TRUE(controller.Leave() == ImageOfFile(file.Path())) << "the memory is wrong";
+    controller.ExpectToHold(file.Path());
 }
 
 INSTANTIATE_TEST_SUITE_P(Machine, Replug,
                          testing::Combine(testing::Values("AtRest", "InAPing", "InARecord",
                                                           "InAPause"),
-                                          testing::Bool()),
-                         [](const auto& spot) {
-                             return std::get<0>(spot.param) +
-                                    (std::get<1>(spot.param) ? "NewName" : "");
-                         });
+                                          testing::Bool()));
 
 TEST(Machine, AWholeUpdateArrivesAsItIs) {
     const std::string file = "samples/QDX-470-sample.HEX";
@@ -197,7 +190,7 @@ TEST(Machine, AWholeUpdateArrivesAsItIs) {
     ASSERT_TRUE(program.ReachProgramPage(file));
     EXPECT_EQ(program.window.lblResults.Caption.Get(), " Port 1 Ready.  Click NEXT to continue.");
     EXPECT_TRUE(program.Update());
-    EXPECT_TRUE(controller.Leave() == ImageOfFile(file)) << "the memory is wrong";
+    controller.ExpectToHold(file);
 }
 
 }  // namespace

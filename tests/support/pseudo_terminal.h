@@ -6,8 +6,6 @@
 #include <sys/stat.h>
 #include <termios.h>
 
-#include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
@@ -17,14 +15,38 @@
 
 namespace keplin::test {
 
+// A line as a program opens it; there is none where that fails.
+inline UniqueFd OpenLine(const std::string& path) {
+    return UniqueFd(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
+}
+
+// Waits that long for it on any machine, and so long only to fail.
+inline bool IsReadable(const int descriptor) {
+    pollfd waiting{.fd = descriptor, .events = POLLIN, .revents = 0};
+    return ::poll(&waiting, 1, 5000) == 1;
+}
+
+// What comes until `count` bytes are there, the line hangs up or nothing more comes for a while.
+inline std::string Receive(const UniqueFd& line, std::size_t count) {
+    std::string received;
+    char byte = 0;
+    while (received.size() < count && IsReadable(line.Get()) && ::read(line.Get(), &byte, 1) == 1)
+        received += byte;
+    return received;
+}
+
+inline void Send(const UniqueFd& line, std::string_view bytes) {
+    const auto count = ::write(line.Get(), bytes.data(), bytes.size());
+    if (count != static_cast<ssize_t>(bytes.size())) throw std::runtime_error("not sent");
+}
+
 class PseudoTerminal {
   public:
     // As another program may have left it: another speed and framing, flow control, line ends
     // translated, bytes echoed and kept back until the line ends. Every user may open it.
-    PseudoTerminal() : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) {
-        if (!master_ || ::grantpt(master_.Get()) != 0 || ::unlockpt(master_.Get()) != 0) {
+    PseudoTerminal() {
+        if (!master_ || ::grantpt(master_.Get()) != 0 || ::unlockpt(master_.Get()) != 0)
             throw std::runtime_error("no pseudo-terminal");
-        }
         path_ = ::ptsname(master_.Get());
         termios settings = Settings();
         settings.c_iflag |= ICRNL | ISTRIP | INPCK | IXON | IXOFF | IXANY;
@@ -47,36 +69,15 @@ class PseudoTerminal {
         tcgetattr(master_.Get(), &settings);
         return settings;
     }
-
     void Apply(const termios& settings) const { tcsetattr(master_.Get(), TCSANOW, &settings); }
 
-    void Send(std::string_view bytes) const {
-        const auto count = ::write(master_.Get(), bytes.data(), bytes.size());
-        if (count != static_cast<ssize_t>(bytes.size())) throw std::runtime_error("not sent");
-    }
-
-    // What arrives until `count` bytes are there or nothing more comes for a while.
+    void Send(std::string_view bytes) const { test::Send(master_, bytes); }
     [[nodiscard]] std::string Receive(std::size_t count) const {
-        std::string received;
-        std::array<char, 4096> part{};
-        while (received.size() < count && IsReadable(master_.Get())) {
-            const auto size = std::min(part.size(), count - received.size());
-            const auto got = ::read(master_.Get(), part.data(), size);
-            if (got <= 0) break;
-            received.append(part.data(), static_cast<std::size_t>(got));
-        }
-        return received;
-    }
-
-    static bool IsReadable(int descriptor, int milliseconds = kLongWait) {
-        pollfd waiting{.fd = descriptor, .events = POLLIN, .revents = 0};
-        return ::poll(&waiting, 1, milliseconds) == 1;
+        return test::Receive(master_, count);
     }
 
   private:
-    static constexpr int kLongWait = 2000;
-
-    UniqueFd master_;
+    UniqueFd master_ = OpenLine("/dev/ptmx");
     std::string path_;
 };
 

@@ -3,6 +3,7 @@
 
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -26,6 +27,18 @@ class TemporaryFile {
     const std::filesystem::path path_ =
         std::filesystem::temp_directory_path() /
         ("keplin-test-" + std::to_string(getpid()) + "-" + std::to_string(++count_) + ".HEX");
+};
+
+// A folder of the same kind.
+class TemporaryFolder {
+  public:
+    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+
+    [[nodiscard]] std::filesystem::path Path() const { return path_; }
+
+  private:
+    std::string name_ = std::filesystem::temp_directory_path() / "keplin-test-XXXXXX";
+    const std::filesystem::path path_ = ::mkdtemp(name_.data());
 };
 
 }  // namespace keplin::test
