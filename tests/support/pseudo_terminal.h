@@ -28,10 +28,14 @@ inline bool IsReadable(const int descriptor) {
 
 // What comes until `count` bytes are there, the line hangs up or nothing more comes for a while.
 inline std::string Receive(const UniqueFd& line, std::size_t count) {
-    std::string received;
-    char byte = 0;
-    while (received.size() < count && IsReadable(line.Get()) && ::read(line.Get(), &byte, 1) == 1)
-        received += byte;
+    std::string received(count, '\0');
+    std::size_t size = 0;
+    while (size < count && IsReadable(line.Get())) {
+        const auto got = ::read(line.Get(), &received[size], count - size);
+        if (got <= 0) break;
+        size += static_cast<std::size_t>(got);
+    }
+    received.resize(size);
     return received;
 }
 
