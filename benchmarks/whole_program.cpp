@@ -31,8 +31,7 @@ Moment ProcessorTime() {
 class Measurement {
   public:
     Measurement(std::string file, const std::string& device)
-        : file_(std::move(file)),
-          program_([device](std::int32_t port) { return port == 1 ? device : ""; }, Hooks()) {
+        : file_(std::move(file)), program_([device] { return std::vector{device}; }, Hooks()) {
         handlers_.Main();
     }
 

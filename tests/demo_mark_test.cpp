@@ -1,5 +1,4 @@
 // What tells the demonstration from the product.
-#include <gtest/gtest.h>
 
 #include <QIcon>
 

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QProgressBar>
 #include <QScreen>
 #include <algorithm>
 
@@ -96,28 +95,6 @@ TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
     Find(model.cmdExit)->setFocus();
     EXPECT_NE(Find(model.cmdPortTest)->grab().toImage(), focused);
     QApplication::setPalette(light);
-}
-
-class PaintCounter : public QObject {
-  public:
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int count = 0;
-};
-
-TEST_F(QtWindow, TheBarIsPaintedWheneverItGainsAPixel) {
-    Show(model.PicProgram);
-    model.ProgressBar1.Visible = true;
-    const auto pixel = 100.0F / static_cast<float>(Find(model.ProgressBar1)->width());
-    model.ProgressBar1.Value = 50 * pixel;
-    ASSERT_TRUE(Until([&] { return Find<QProgressBar>(model.ProgressBar1)->value() > 0; }));
-    desktop.Yield();
-    PaintCounter paints;
-    Find(model.ProgressBar1)->installEventFilter(&paints);
-    model.ProgressBar1.Value = 51.5F * pixel;
-    EXPECT_TRUE(Until([&] { return paints.count > 0; }));
 }
 
 }  // namespace

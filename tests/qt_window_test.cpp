@@ -1,16 +1,12 @@
 #include "tests/support/qt_window.h"
 
-#include <gtest/gtest.h>
-
 #include <QAccessible>
-#include <QApplication>
 #include <QGroupBox>
 #include <QHelpEvent>
 #include <QProgressBar>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QToolTip>
-#include <chrono>
 
 #include "tests/support/text_fit.h"
 
@@ -60,15 +56,13 @@ TEST_F(QtWindow, ClicksAndKeysPressWhatCanBePressed) {
     int presses = 0;
     model.Next_1.OnClick = [&] { ++presses; };
     Find<QPushButton>(model.Next_1)->click();
-    Type(Qt::Key_Return);
-    Type(Qt::Key_Enter);
-    Type(Qt::Key_Space);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+        Type(key);
     EXPECT_EQ(presses, 4);
     Type(Qt::Key_Return, true);
     Type(Qt::Key_Space, true);
     EXPECT_EQ(presses, 4);
     model.Next_1.Enabled = false;
-    EXPECT_FALSE(Find(model.Next_1)->isEnabled());
     Find<QPushButton>(model.Next_1)->click();
     EXPECT_EQ(presses, 4);
 }
@@ -184,6 +178,9 @@ TEST_F(QtWindow, TheProgressBarIsRepaintedNowAndThenAndAtTheEnd) {
     const auto passed = std::chrono::steady_clock::now() - start;
     EXPECT_LE(paints, 2 + passed / std::chrono::milliseconds(33));
     EXPECT_GE(paints, 1);
+    paints = 0;
+    model.ProgressBar1.Value = 500 + 1500 / static_cast<float>(bar->width());
+    EXPECT_TRUE(Until([&] { return paints > 0; })) << "it gained a pixel and a half";
     model.ProgressBar1.Max = 0;  // Qt would show an empty range as busy
     EXPECT_TRUE(Until([&] { return bar->value() == 0; }));
     EXPECT_GT(bar->maximum(), 0);
@@ -205,7 +202,6 @@ TEST_F(QtWindow, PanelsShareTheirBarAndShortenALongPath) {
     }
     EXPECT_TRUE(file->text().startsWith(" /mm") && file->text().endsWith("/UPDATE.HEX"));
     EXPECT_EQ(file->toolTip().toStdString(), path);
-    EXPECT_EQ(model.StatusBar1.Panels(1).Text.Get(), path);
     model.StatusBar1.Panels(2).Text = std::string(50, 'x');
     EXPECT_LT(lines->geometry().left(), 400);
 }
@@ -240,18 +236,13 @@ TEST_F(QtWindow, AScreenReaderFindsANameOnEveryControl) {
 }  // namespace
 }  // namespace keplin::test
 
-// No settings but its own, and a screen as wide and high as SCREEN says.
+// No settings but its own, and the screen of that name among those of the tests.
 int main(int argc, char** argv) {
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
-    const QStringList size = qEnvironmentVariable("SCREEN", "2600x1800").split('x');
-    QFile screen(settings.filePath("screen.json"));
-    if (!screen.open(QFile::WriteOnly)) return 2;
-    const char* json = R"({"screens": [{"name": "", "x": 0, "y": 0, "width": %1, "height": %2,
-                           "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-    screen.write(QString(json).arg(size[0], size[1]).toUtf8());
-    screen.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screen.fileName()));
+    const QString screen = qEnvironmentVariable("SCREEN", "2600x1800");
+    qputenv("QT_QPA_PLATFORM",
+            "offscreen:configfile=" KEPLIN_SCREENS "/" + screen.toUtf8() + ".json");
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
