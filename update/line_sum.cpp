@@ -27,7 +27,7 @@ constexpr std::uint8_t DigitValue(char character) {
 // A line's digits in rows of 32, summed column by column: all digits of a column weigh the same.
 constexpr std::size_t kColumns = 32;
 using Columns = std::array<std::uint8_t, kColumns>;
-constexpr int kMostRows = 2 * 255 / kColumns + 1;
+constexpr std::size_t kMostRows = std::size_t{2} * 255 / kColumns + 1;
 static_assert(kMostRows * 0xF <= 255, "a column's sum is a byte");
 
 void AddRow(const char* row, Columns& sums) {
