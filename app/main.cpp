@@ -8,6 +8,6 @@ int main(int argc, char** argv) {
     const auto application = keplin::OpenDisplay(argc, argv, "keplin");
     keplin::Program program([] { return keplin::ComputerPorts(); }, {});
     keplin::OpenManualOnF1(program.drawing);
-    program.handlers.Main();
+    program.session.Main();
     return QApplication::exec();
 }

@@ -23,7 +23,7 @@ Program::Program(DevicePaths ports, qt::QtDesktop::Hooks hooks)
     : port(std::move(ports)),
       drawing(window),
       desktop(drawing, ForPort(std::move(hooks), port)),
-      handlers(window, port, desktop) {
+      session(window, port, desktop) {
     port.OnLineChange = [this](int descriptor) { desktop.WatchLine(descriptor); };
 }
 

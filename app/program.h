@@ -1,9 +1,9 @@
 // The whole program, put together: the window's model, its drawing, the serial port, the desktop
-// and the handlers.
+// and the session.
 #pragma once
 
 #include "device/posix/posix_port.h"
-#include "handlers/handlers.h"
+#include "session/session.h"
 #include "ui/isp_main.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/qt_desktop.h"
@@ -22,7 +22,7 @@ struct Program {
     PosixPort port;
     qt::MainWindow drawing;
     qt::QtDesktop desktop;
-    Handlers handlers;
+    Session session;
 };
 
 }  // namespace keplin

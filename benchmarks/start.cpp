@@ -6,6 +6,6 @@
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     keplin::Program program([] { return keplin::ComputerPorts(); }, {});
-    program.handlers.Main();
+    program.session.Main();
     return keplin::benchmarks::TellWhenPainted();
 }

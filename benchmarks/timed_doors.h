@@ -61,7 +61,7 @@ class TimedDesktop : public Desktop {
             exchanges_.back().slept = benchmarks::Now();
     }
 
-    void Yield() override { desktop_.Yield(); }
+    void YieldOnce() override { desktop_.YieldOnce(); }
     std::chrono::milliseconds Now() override { return desktop_.Now(); }
     std::optional<std::string> ShowOpen(const OpenFileRequest& request) override {
         return desktop_.ShowOpen(request);

@@ -32,7 +32,7 @@ class Measurement {
   public:
     Measurement(std::string file, const std::string& device)
         : file_(std::move(file)), program_([device] { return std::vector{device}; }, Hooks()) {
-        handlers_.Main();
+        session_.Main();
     }
 
     // From the dialog's answer to the page that follows, painted.
@@ -85,7 +85,7 @@ class Measurement {
     std::vector<Exchange> exchanges_;
     TimedPort port_{program_.port, exchanges_};
     TimedDesktop desktop_{program_.desktop, exchanges_};
-    Handlers handlers_{program_.window, port_, desktop_};  // in place of the program's own
+    Session session_{program_.window, port_, desktop_};  // in place of the program's own
 };
 
 }  // namespace

@@ -48,7 +48,7 @@ class Demonstration {
             program_.window.Observe(&printer_);
             QTimer::singleShot(0, [this] { walk_.Go(); });
         }
-        program_.handlers.Main();
+        program_.session.Main();
         return QApplication::exec();
     }
 

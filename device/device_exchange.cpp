@@ -62,7 +62,7 @@ bool DeviceExchange::PingDevice() {
     DiscardReceived();
     PassOver([&] { Port1.WriteByte(kPing); });
     desktop_.Sleep(kAnswerTime);
-    desktop_.Yield();
+    desktop_.YieldOnce();
     return ReadByte() == kPing;
 }
 
@@ -84,7 +84,7 @@ bool DeviceExchange::ExchangeRecord(std::string_view record) {
     ReplyLine reply(record.size(), desktop_);
     desktop_.Sleep(kAnswerTime);
     while (!reply.Done()) {
-        desktop_.Yield();
+        desktop_.YieldOnce();
         const std::int32_t byte = ReadByte();
         reply.Take(byte);
         if (reply.GivenUp() || (byte == kNoByte && Port1.LineLost())) return false;

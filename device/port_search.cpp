@@ -42,7 +42,7 @@ bool PortSearch::TryPort(std::int16_t port) {
 
 void PortSearch::ShowForASecond(const std::string& text) {
     window_.lblResults.Caption = text;
-    desktop_.Yield();
+    desktop_.YieldOnce();
     desktop_.Sleep(1000ms);
 }
 

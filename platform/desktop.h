@@ -23,7 +23,7 @@ class Desktop {
 
     // Processes the pending window events once. May first wait up to 2 ms for one to arrive while
     // the serial line is idle, so that waiting costs no processor time.
-    virtual void Yield() = 0;
+    virtual void YieldOnce() = 0;
 
     // Blocks for that long, with all that was set on the screen; no window event is processed
     // meanwhile.

@@ -46,7 +46,7 @@ TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
         const auto start = waiting.Now();
         for (int i = 0; i < 50; ++i) {
             awaited = wait;
-            waiting.Yield();
+            waiting.YieldOnce();
             EXPECT_FALSE(awaited);
         }
         return waiting.Now() - start;
@@ -102,7 +102,7 @@ class QtDialogTest : public QtWindow {
                 const int key = letter == '\r' ? Qt::Key_Return : Qt::Key_unknown;
                 QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(letter));
                 QCoreApplication::sendEvent(name, &event);
-                desktop.Yield();
+                desktop.YieldOnce();
             }
         });
     }

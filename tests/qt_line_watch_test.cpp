@@ -29,7 +29,7 @@ TEST_F(LineWatch, AByteThatNobodyReadsKeepsNoLoopInsideAWaitBusy) {
         QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, &dialog, [&] { ++rounds; });
         dialog.exec();
     });
-    waiting.Yield();
+    waiting.YieldOnce();
     EXPECT_GT(rounds, 0);
     EXPECT_LT(rounds, 50);
 }

@@ -66,7 +66,7 @@ TEST_F(QtWindow, ALabelThatIsTooNarrowWritesSmallerAsLongAsItMust) {
 TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
     const QPalette light = QApplication::palette();
     QApplication::setPalette(QPalette(QColor(40, 40, 40)));
-    desktop.Yield();
+    desktop.YieldOnce();
     model.lblResults.Caption = "Query to Port 1";
     model.lblPrgm.Visible = true;
     for (Page* page : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {

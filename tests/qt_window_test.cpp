@@ -137,7 +137,7 @@ TEST_F(QtWindow, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
     EXPECT_EQ(pressInEachWay(), 3);
     window.showMinimized();
     window.showNormal();
-    desktop.Yield();
+    desktop.YieldOnce();
     EXPECT_EQ(pressInEachWay(), 3);
     for (Button* button : {&model.Command1, &model.cmdExit}) {
         button->Enabled = false;
@@ -172,7 +172,7 @@ TEST_F(QtWindow, TheProgressBarIsRepaintedNowAndThenAndAtTheEnd) {
     const auto start = std::chrono::steady_clock::now();
     for (int i = 1; i <= 500; ++i) {
         model.ProgressBar1.Value = static_cast<float>(i);
-        desktop.Yield();
+        desktop.YieldOnce();
     }
     EXPECT_TRUE(Until([&] { return bar->value() == bar->maximum() / 2; }));
     const auto passed = std::chrono::steady_clock::now() - start;

@@ -23,7 +23,7 @@ void StopActivity(ISPMain& window) {
 
 void Timer1_Timer(ISPMain& window, Desktop& desktop) {
     Property<float>& left = window.Shape2.Left;
-    desktop.Yield();
+    desktop.YieldOnce();
     if (left < kRightEnd && !window.MovingLeft) {
         left = left + kStep;
     } else {
@@ -34,7 +34,7 @@ void Timer1_Timer(ISPMain& window, Desktop& desktop) {
     } else {
         window.MovingLeft = false;
     }
-    desktop.Yield();
+    desktop.YieldOnce();
 }
 
 }  // namespace keplin

@@ -12,7 +12,7 @@ void ShowProgramInstructions(ISPMain& window, Desktop& desktop) {
     lblPrg[2].Caption =
         "3. Observe below and verify the Erase process completes without any failures.";
     lblPrg[3].Caption = "4. After the erase process, the device programming will begin.";
-    desktop.Yield();
+    desktop.YieldOnce();
 }
 
 }  // namespace keplin

@@ -15,30 +15,30 @@ bool EraseDevice(ISPMain& window, DeviceExchange& controller, Desktop& desktop) 
     ProgressBar1.Value = 0;
     if (!controller.SendCalibration()) return false;
     lblPrgm.Caption = "Device calibrating for programming";
-    desktop.Yield();
+    desktop.YieldOnce();
     desktop.Sleep(2000ms);
 
     ProgressBar1.Visible = true;
     lblPrgm.Caption = "Block #1 Erase in Process";
-    desktop.Yield();
+    desktop.YieldOnce();
     if (!controller.SendEraseCommand(1)) return false;
     ProgressBar1.Value = 33;
-    desktop.Yield();
+    desktop.YieldOnce();
     desktop.Sleep(800ms);
 
     lblPrgm.Caption = "Block #2 Erase in Process";
-    desktop.Yield();
+    desktop.YieldOnce();
     desktop.Sleep(800ms);
     if (!controller.SendEraseCommand(2)) return false;
     ProgressBar1.Value = 66;
-    desktop.Yield();
+    desktop.YieldOnce();
 
     lblPrgm.Caption = "Block #3 Erase in Process";
-    desktop.Yield();
+    desktop.YieldOnce();
     desktop.Sleep(800ms);
     if (!controller.SendEraseCommand(3)) return false;
     ProgressBar1.Value = 100;
-    desktop.Yield();
+    desktop.YieldOnce();
     desktop.Sleep(800ms);
     return true;
 }

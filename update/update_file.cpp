@@ -65,13 +65,13 @@ void UpdateFile::OpenForReading(const std::string& path) {
 
 void UpdateFile::ShowFacts(const std::string& path) {
     window_.StatusBar1.Panels(1).Text = " " + path;
-    desktop_.Yield();
+    desktop_.YieldOnce();
     const std::uint64_t length = desktop_.FileLength(path);
     window_.StatusBar2.Panels(1).Text =
         " File Size: " + std::to_string(length) + "     Hex: " + Hex(length);
-    desktop_.Yield();
+    desktop_.YieldOnce();
     window_.StatusBar2.Panels(2).Text = " Created " + desktop_.FileDateTime(path);
-    desktop_.Yield();
+    desktop_.YieldOnce();
 }
 
 UpdateFile::Contents UpdateFile::ReadLines() {
@@ -91,7 +91,7 @@ void UpdateFile::ShowContents(const Contents& contents) {
         " Number of Lines: " + std::to_string(contents.lines) + "  ";
     window_.StatusBar2.Panels(3).Text =
         "Checksum: " + Hex(static_cast<std::uint32_t>(contents.sum));
-    desktop_.Yield();
+    desktop_.YieldOnce();
 }
 
 }  // namespace keplin

@@ -59,7 +59,7 @@ bool UpdateRun::ReachLoader() {
 void UpdateRun::ShowAllErased() {
     window_.ProgressBar1.Visible = false;
     window_.lblPrgm.Caption = "All Blocks Erased";
-    desktop_.Yield();
+    desktop_.YieldOnce();
     window_.ProgressBar1.Counts = ProgressBar::Unit::Lines;
     window_.ProgressBar1.Min = 0;
     window_.ProgressBar1.Max = static_cast<float>(file_.LineCount);
@@ -72,7 +72,7 @@ bool UpdateRun::StartProgramming() {
     window_.lblPrgm.Caption = "Programming Device";
     window_.ProgressBar1.Visible = true;
     if (!controller_.SendCalibration()) return false;
-    desktop_.Yield();
+    desktop_.YieldOnce();
     return true;
 }
 
@@ -105,7 +105,7 @@ void UpdateRun::ShowUpdateComplete() {
     lblPrg[2].Caption =
         "Re-apply power and verify the voice announces the correct update version number.";
     lblPrg[3].Caption = "Close this program";
-    desktop_.Yield();
+    desktop_.YieldOnce();
 }
 
 }  // namespace keplin

@@ -161,7 +161,7 @@ TEST_P(Replug, ASecondTryCompletes) {
     if (newName && !inAPause) another = OpenRaw("/dev/ttyUSB0");
     if (place == "AtRest") {
         PlugIn(false);
-        EXPECT_TRUE(Soon([&] { return program.desktop.Yield(), program.port.LineLost(); }));
+        EXPECT_TRUE(Soon([&] { return program.desktop.YieldOnce(), program.port.LineLost(); }));
     } else {
         int left = place == "InAPing" ? kPingAfterErase : place == "InARecord" ? kFirstLine : 1;
         program.desktop.OnSleep = [&](auto duration) {

@@ -11,7 +11,7 @@
 
 #include "device/posix/port_list.h"
 #include "device/posix/posix_port.h"
-#include "handlers/handlers.h"
+#include "session/session.h"
 #include "ui/qt/qt_desktop.h"
 
 namespace keplin::test {
@@ -47,7 +47,7 @@ class MachineDesktop : public qt::QtDesktop {
 
 struct Program {
     explicit Program(DevicePaths ports = [] { return ComputerPorts(); }) : port(std::move(ports)) {
-        handlers.Main();
+        session.Main();
     }
     ~Program() { port.Close(); }
     Program(const Program&) = delete;
@@ -72,7 +72,7 @@ struct Program {
     PosixPort port;
     QWidget drawing;
     MachineDesktop desktop{drawing, port};
-    Handlers handlers{window, port, desktop};
+    Session session{window, port, desktop};
 };
 
 }  // namespace keplin::test

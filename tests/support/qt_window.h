@@ -117,7 +117,7 @@ class QtWindow : public testing::Test {
     bool Until(Condition&& condition) {
         const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
         while (!condition() && std::chrono::steady_clock::now() < end) {
-            desktop.Yield();
+            desktop.YieldOnce();
         }
         return condition();
     }

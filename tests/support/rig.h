@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "handlers/handlers.h"
+#include "session/session.h"
 #include "simulator/loader.h"
 #include "tests/support/temporary_file.h"
 #include "tests/support/virtual_desktop.h"
@@ -22,7 +22,7 @@ struct Rig : VirtualScreen {
     explicit Rig(simulator::DeviceEnd* device = nullptr)
         : port(device != nullptr ? *device : loader, desktop) {
         window.Observe(&trace);
-        handlers.Main();
+        session.Main();
     }
     ~Rig() { window.Observe(nullptr); }
     Rig(const Rig&) = delete;
@@ -42,7 +42,7 @@ struct Rig : VirtualScreen {
 
     simulator::Loader loader;
     VirtualPort port;
-    Handlers handlers{window, port, desktop};
+    Session session{window, port, desktop};
 };
 
 }  // namespace keplin::test

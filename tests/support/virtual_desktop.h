@@ -25,7 +25,7 @@ class VirtualDesktop : public Desktop {
   public:
     VirtualDesktop(ISPMain& window, Trace& trace) : window_(window), trace_(trace) {}
 
-    void Yield() override {
+    void YieldOnce() override {
         ++Yields;
         trace_.Add("Yield");
         if (OnYield) OnYield();

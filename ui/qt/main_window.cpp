@@ -9,7 +9,7 @@
 #include "ui/qt/accessible.h"
 #include "ui/qt/font_choice.h"
 #include "ui/qt/picture_widget.h"
-#include "ui/qt/widget_maker.h"
+#include "ui/qt/widget_factory.h"
 
 namespace keplin::qt {
 namespace {
@@ -45,10 +45,10 @@ MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     look_.font = ChooseFont(look_);
     setFont(look_.font);
     setWindowIcon(ProgramIcon());
-    WidgetMaker maker(*this, look_, focus_, guard_);
+    WidgetFactory factory(*this, look_, focus_, guard_);
     for (const Control* control : model.Controls())
-        control->Accept(maker);
-    drawn_ = std::move(maker.Made);
+        control->Accept(factory);
+    drawn_ = std::move(factory.Made);
     for (const Aspect aspect : {Aspect::Caption, Aspect::Height})
         ApplyToWindow(aspect);
     focus_.AfterChange();

@@ -15,19 +15,19 @@ constexpr int kPauseMs = 1000 / 30 + 1;  // between two repaints
 
 // The range is never empty, which Qt would show as busy.
 ProgressBarWidget::ProgressBarWidget(const ProgressBar& bar, const Look& look, QWidget* parent)
-    : QProgressBar(parent), bar_(bar), look_(look), pace_(kPauseMs, [this] { ShowDone(); }) {
+    : QProgressBar(parent), bar_(bar), look_(look), throttle_(kPauseMs, [this] { ShowDone(); }) {
     setTextVisible(false);
     setRange(0, kSteps);
     ApplyCommon(*this, bar, look.scale);
     setAccessibleName(ToQt(bar.Description));
-    pace_.ShowNow();
+    throttle_.ShowNow();
 }
 
 void ProgressBarWidget::Apply(Aspect aspect) {
     if (aspect == Aspect::Min || aspect == Aspect::Max || aspect == Aspect::Value) {
-        pace_.ShowSoon();
+        throttle_.ShowSoon();
     } else {
-        if (aspect == Aspect::Visible) pace_.ShowNow();
+        if (aspect == Aspect::Visible) throttle_.ShowNow();
         ApplyCommon(*this, bar_, look_.scale, aspect);
     }
 }

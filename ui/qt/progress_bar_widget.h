@@ -4,7 +4,7 @@
 #include <QProgressBar>
 
 #include "ui/qt/drawn.h"
-#include "ui/qt/pace.h"
+#include "ui/qt/throttle.h"
 
 namespace keplin::qt {
 
@@ -24,7 +24,7 @@ class ProgressBarWidget final : public QProgressBar, public Drawn {
 
     const ProgressBar& bar_;
     const Look& look_;
-    Pace pace_;
+    Throttle throttle_;
     QPoint tipPlace_;
 };
 

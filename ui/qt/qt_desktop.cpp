@@ -40,7 +40,7 @@ void ShowAllThatWasSet(QWidget& window) {
 QtDesktop::QtDesktop(QWidget& window, Hooks hooks)
     : window_(window), hooks_(std::move(hooks)), line_(hooks_.hungUp) {}
 
-void QtDesktop::Yield() {
+void QtDesktop::YieldOnce() {
     if (hooks_.awaitsByte && hooks_.awaitsByte()) {
         line_.ProcessEvents();
     } else {

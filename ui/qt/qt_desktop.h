@@ -33,7 +33,7 @@ class QtDesktop : public Desktop {
     // it is closed.
     void WatchLine(int descriptor) { line_.Watch(descriptor); }
 
-    void Yield() override;
+    void YieldOnce() override;
     void Sleep(std::chrono::milliseconds duration) override;
     std::chrono::milliseconds Now() override;
     std::optional<std::string> ShowOpen(const OpenFileRequest& request) override;

@@ -14,9 +14,9 @@ class StatusBarWidget;
 
 // The widgets belong to the window; they hold on to the look, the focus keeper and
 // the press guard.
-class WidgetMaker : public ControlVisitor {
+class WidgetFactory : public ControlVisitor {
   public:
-    WidgetMaker(QWidget& window, const Look& look, FocusKeeper& focus, PressGuard& guard)
+    WidgetFactory(QWidget& window, const Look& look, FocusKeeper& focus, PressGuard& guard)
         : window_(window), look_(look), focus_(focus), guard_(guard) {}
 
     void Visit(const Form& form) override;

@@ -1,4 +1,4 @@
-#include "ui/qt/widget_maker.h"
+#include "ui/qt/widget_factory.h"
 
 #include <utility>
 
@@ -14,52 +14,52 @@
 namespace keplin::qt {
 
 template <typename Widget, typename... Arguments>
-Widget* WidgetMaker::Make(const Control& control, Arguments&&... arguments) {
+Widget* WidgetFactory::Make(const Control& control, Arguments&&... arguments) {
     QWidget* parent = control.Container ? containers_.at(control.Container) : &window_;
     auto* widget = new Widget(std::forward<Arguments>(arguments)..., parent);
     Made[&control] = widget;
     return widget;
 }
 
-void WidgetMaker::Visit(const Form&) {}
+void WidgetFactory::Visit(const Form&) {}
 
-void WidgetMaker::Visit(const Page& page) {
+void WidgetFactory::Visit(const Page& page) {
     containers_[&page] = Make<PageWidget>(page, page, look_);
 }
 
-void WidgetMaker::Visit(const Frame& frame) {
+void WidgetFactory::Visit(const Frame& frame) {
     containers_[&frame] = Make<FrameWidget>(frame, frame, look_);
 }
 
-void WidgetMaker::Visit(const Label& label) {
+void WidgetFactory::Visit(const Label& label) {
     Make<LabelWidget>(label, label, look_);
 }
 
-void WidgetMaker::Visit(const Button& button) {
+void WidgetFactory::Visit(const Button& button) {
     Make<ButtonWidget>(button, button, look_, focus_, guard_);
 }
 
-void WidgetMaker::Visit(const Picture& picture) {
+void WidgetFactory::Visit(const Picture& picture) {
     Make<PictureWidget>(picture, picture, look_);
 }
 
-void WidgetMaker::Visit(const Shape& shape) {
+void WidgetFactory::Visit(const Shape& shape) {
     Make<ShapeWidget>(shape, shape, look_);
 }
 
-void WidgetMaker::Visit(const ProgressBar& bar) {
+void WidgetFactory::Visit(const ProgressBar& bar) {
     Make<ProgressBarWidget>(bar, bar, look_);
 }
 
-void WidgetMaker::Visit(const StatusBar& bar) {
+void WidgetFactory::Visit(const StatusBar& bar) {
     bars_[&bar] = Make<StatusBarWidget>(bar, bar, look_);
 }
 
-void WidgetMaker::Visit(const Panel& panel) {
+void WidgetFactory::Visit(const Panel& panel) {
     Made[&panel] = &bars_.at(panel.Container)->Add(panel);
 }
 
-void WidgetMaker::Visit(const Timer& timer) {
+void WidgetFactory::Visit(const Timer& timer) {
     Make<TickTimer>(timer, timer);
 }
 

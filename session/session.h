@@ -1,4 +1,5 @@
-// What the window does: the start-up, one handler for each event of a control, and the closing.
+// One use of the program, from its start-up to its closing: one handler for each event of a
+// control.
 #pragma once
 
 #include <functional>
@@ -13,14 +14,14 @@
 
 namespace keplin {
 
-// The program behind one window. It answers the window's events from its making on; window, port
+// What stands behind one window. It answers the window's events from its making on; window, port
 // and desktop must outlive it.
-class Handlers {
+class Session {
   public:
-    Handlers(ISPMain& window, SerialPort& port, Desktop& desktop);
-    ~Handlers();
-    Handlers(const Handlers&) = delete;
-    Handlers& operator=(const Handlers&) = delete;
+    Session(ISPMain& window, SerialPort& port, Desktop& desktop);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     // The program begins here: shows the window with the getting-started page.
     void Main();
@@ -37,7 +38,7 @@ class Handlers {
 
     // A handler as the window calls it: passed over once the window is closing. A failure ends the
     // handler, never the program.
-    using Handler = void (Handlers::*)();
+    using Handler = void (Session::*)();
     std::function<void()> On(Handler handler);
 
     ISPMain& window_;

@@ -1,4 +1,4 @@
-#include "handlers/handlers.h"
+#include "session/session.h"
 
 #include <string>
 
@@ -31,23 +31,23 @@ void Once(bool& underWay, Work&& work) {
 
 }  // namespace
 
-Handlers::Handlers(ISPMain& window, SerialPort& port, Desktop& desktop)
+Session::Session(ISPMain& window, SerialPort& port, Desktop& desktop)
     : window_(window),
       desktop_(desktop),
       controller_(port, desktop),
       search_(window, port, controller_, desktop),
       file_(window, desktop),
       run_(window, controller_, file_, desktop) {
-    window.Next_1.OnClick = On(&Handlers::Next_1_Click);
-    window.cmdPortTest.OnClick = On(&Handlers::cmdPortTest_Click);
-    window.Next_2.OnClick = On(&Handlers::Next_2_Click);
-    window.Command1.OnClick = On(&Handlers::Command1_Click);
-    window.cmdExit.OnClick = On(&Handlers::cmdExit_Click);
-    window.Timer1.OnTimer = On(&Handlers::Timer1_Tick);
-    window.Window.OnCloseRequest = On(&Handlers::Form_CloseRequest);
+    window.Next_1.OnClick = On(&Session::Next_1_Click);
+    window.cmdPortTest.OnClick = On(&Session::cmdPortTest_Click);
+    window.Next_2.OnClick = On(&Session::Next_2_Click);
+    window.Command1.OnClick = On(&Session::Command1_Click);
+    window.cmdExit.OnClick = On(&Session::cmdExit_Click);
+    window.Timer1.OnTimer = On(&Session::Timer1_Tick);
+    window.Window.OnCloseRequest = On(&Session::Form_CloseRequest);
 }
 
-Handlers::~Handlers() {
+Session::~Session() {
     for (Button* button : {&window_.Next_1, &window_.cmdPortTest, &window_.Next_2,
                            &window_.Command1, &window_.cmdExit}) {
         button->OnClick = nullptr;
@@ -56,13 +56,13 @@ Handlers::~Handlers() {
     window_.Window.OnCloseRequest = nullptr;
 }
 
-std::function<void()> Handlers::On(Handler handler) {
+std::function<void()> Session::On(Handler handler) {
     return [this, handler] {
         if (!closing_) PassOver([&] { (this->*handler)(); });
     };
 }
 
-void Handlers::Main() {
+void Session::Main() {
     StopActivity(window_);
     window_.lblPrgm.Visible = false;
     ShowPage(window_.PicGettingStarted);
@@ -72,13 +72,13 @@ void Handlers::Main() {
     window_.Window.Visible = true;
 }
 
-void Handlers::Next_1_Click() {
+void Session::Next_1_Click() {
     window_.Next_2.Enabled = false;
     window_.PicGettingStarted.Visible = false;
     ShowPage(window_.PicSetup);
 }
 
-void Handlers::cmdPortTest_Click() {
+void Session::cmdPortTest_Click() {
     Once(lineInUse_, [&] {
         window_.cmdPortTest.Enabled = false;
         window_.cmdExit.Enabled = false;
@@ -96,7 +96,7 @@ void Handlers::cmdPortTest_Click() {
     });
 }
 
-void Handlers::Next_2_Click() {
+void Session::Next_2_Click() {
     window_.PicSetup.Visible = false;
     if (!file_.LoadUpdateFile()) return;
     window_.PicProgram.Left = kShownPageLeft;
@@ -104,33 +104,33 @@ void Handlers::Next_2_Click() {
     window_.ProgressBar1.Visible = false;
     window_.PicProgram.Visible = true;
     window_.ProgressBar1.Value = 0;
-    desktop_.Yield();
+    desktop_.YieldOnce();
 }
 
-void Handlers::Command1_Click() {
+void Session::Command1_Click() {
     Once(lineInUse_, [&] { run_.Run(); });
 }
 
-void Handlers::cmdExit_Click() {
+void Session::cmdExit_Click() {
     Form_Unload();
 }
 
 // A tick that falls due while another one yields waits for the next: ticks never nest.
-void Handlers::Timer1_Tick() {
+void Session::Timer1_Tick() {
     Once(ticking_, [&] { Timer1_Timer(window_, desktop_); });
 }
 
 // The title bar's close control does what Close does, and nothing while Close cannot be pressed:
 // a search or an update is under way.
-void Handlers::Form_CloseRequest() {
+void Session::Form_CloseRequest() {
     if (window_.cmdExit.CanBePressed()) Form_Unload();
 }
 
-void Handlers::Form_Unload() {
+void Session::Form_Unload() {
     closing_ = true;
-    desktop_.Yield();
+    desktop_.YieldOnce();
     Win95Shrivel(window_.Window);
-    desktop_.Yield();
+    desktop_.YieldOnce();
     desktop_.End();
 }
 

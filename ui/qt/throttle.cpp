@@ -1,15 +1,16 @@
-#include "ui/qt/pace.h"
+#include "ui/qt/throttle.h"
 
 #include <utility>
 
 namespace keplin::qt {
 
-Pace::Pace(int pauseMs, std::function<void()> show) : pauseMs_(pauseMs), show_(std::move(show)) {
+Throttle::Throttle(int pauseMs, std::function<void()> show)
+    : pauseMs_(pauseMs), show_(std::move(show)) {
     later_.setSingleShot(true);
     later_.callOnTimeout([this] { ShowNow(); });
 }
 
-void Pace::ShowSoon() {
+void Throttle::ShowSoon() {
     if (later_.isActive()) return;
     const auto passed = sinceShown_.isValid() ? sinceShown_.elapsed() : pauseMs_;
     if (passed >= pauseMs_) {
@@ -19,7 +20,7 @@ void Pace::ShowSoon() {
     }
 }
 
-void Pace::ShowNow() {
+void Throttle::ShowNow() {
     later_.stop();
     show_();
     sinceShown_.start();

@@ -8,10 +8,10 @@
 
 namespace keplin::qt {
 
-class Pace {
+class Throttle {
   public:
     // `show` is called at most once in `pauseMs` milliseconds.
-    Pace(int pauseMs, std::function<void()> show);
+    Throttle(int pauseMs, std::function<void()> show);
 
     // Something changed.
     void ShowSoon();
