@@ -59,9 +59,9 @@ void Load(benchmark::State& state, const std::string& path) {
         ISPMain window;
         test::Trace trace;
         trace.Recording = false;
-        MarkingDesktop desktop(window, trace);
+        test::VirtualTime time;
+        MarkingDesktop desktop(window, trace, time);
         desktop.Answer = path;
-        desktop.NextArrival = [&desktop] { return desktop.Clock; };
         UpdateFile file(window, desktop);
         const LastPanelWatch watch(window);
         if (!file.LoadUpdateFile()) state.SkipWithError("not loaded");

@@ -12,7 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 struct DeviceExchangeTest : testing::Test, VirtualScreen {
-    ScriptedPort port;
+    ScriptedPort port{time};
     DeviceExchange controller{port, desktop};
 
     void ExpectRecord(const std::string& record, const std::string& reply) {

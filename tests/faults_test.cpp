@@ -96,7 +96,7 @@ TEST_P(EveryFault, AtEveryExchangeStopsTheRunWhereItStandsAndASecondRunCompletes
         EXPECT_EQ(k == 4 ? window.ProgressBar1.Value.Get() : 0, 0);
         EXPECT_EQ(faulty.rig.port.Sent.size(), static_cast<std::size_t>(before + k));
         faulty.device.ClearFaults();
-        faulty.rig.desktop.Clock += std::chrono::seconds(1);
+        faulty.rig.time.Now += std::chrono::seconds(1);
         faulty.Update();
         EXPECT_TRUE(faulty.rig.Completed());
     }

@@ -10,7 +10,7 @@ namespace keplin::test {
 namespace {
 
 struct PortSearchTest : testing::Test, VirtualScreen {
-    ScriptedPort port;
+    ScriptedPort port{time};
     DeviceExchange controller{port, desktop};
     PortSearch search{window, port, controller, desktop};
 

@@ -10,11 +10,13 @@
 #include <utility>
 
 #include "device/serial_port.h"
+#include "tests/support/virtual_time.h"
 
 namespace keplin::test {
 
 class ScriptedPort : public SerialPort {
   public:
+    explicit ScriptedPort(VirtualTime& time) : time_(time) {}
     ~ScriptedPort() override { EXPECT_TRUE(script_.empty()) << "left: " << script_.front().first; }
 
     // The next member called must be `call`, and gives `result`.
@@ -40,7 +42,11 @@ class ScriptedPort : public SerialPort {
     void Setting47(std::int32_t value) override { Play("Setting47 " + std::to_string(value)); }
     std::int32_t Open() override { return Play("Open"); }
     std::int32_t Close() override { return Play("Close"); }
-    std::int32_t ReadByte() override { return Play("ReadByte"); }
+    std::int32_t ReadByte() override {
+        const std::int32_t byte = Play("ReadByte");
+        if (byte < 0) time_.ReadNothing();
+        return byte;
+    }
     void WriteByte(std::uint8_t byte) override { Play("WriteByte " + std::to_string(byte)); }
     void DiscardInput() override { Play("DiscardInput"); }
     void WriteText(std::string_view text) override { Play("WriteText " + std::string(text)); }
@@ -61,6 +67,7 @@ class ScriptedPort : public SerialPort {
         return result ? *result : throw PortError(call);
     }
 
+    VirtualTime& time_;
     // Each member, and what it gives: nothing when it fails.
     std::deque<std::pair<std::string, std::optional<std::int32_t>>> script_;
 };
