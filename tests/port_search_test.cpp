@@ -10,7 +10,7 @@ namespace keplin::test {
 namespace {
 
 struct PortSearchTest : testing::Test, VirtualScreen {
-    ScriptedPort port{time};
+    ScriptedPort port{time, &trace};
     DeviceExchange controller{port, desktop};
     PortSearch search{window, port, controller, desktop};
 

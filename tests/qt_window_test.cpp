@@ -5,7 +5,6 @@
 #include <QHelpEvent>
 #include <QProgressBar>
 #include <QScreen>
-#include <QTemporaryDir>
 #include <QToolTip>
 
 #include "tests/support/text_fit.h"
@@ -235,15 +234,3 @@ TEST_F(QtWindow, AScreenReaderFindsANameOnEveryControl) {
 
 }  // namespace
 }  // namespace keplin::test
-
-// No settings but its own, and the screen of that name among those of the tests.
-int main(int argc, char** argv) {
-    const QTemporaryDir settings;
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
-    const QString screen = qEnvironmentVariable("SCREEN", "2600x1800");
-    qputenv("QT_QPA_PLATFORM",
-            "offscreen:configfile=" KEPLIN_SCREENS "/" + screen.toUtf8() + ".json");
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

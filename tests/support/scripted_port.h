@@ -10,13 +10,15 @@
 #include <utility>
 
 #include "device/serial_port.h"
+#include "tests/support/trace.h"
 #include "tests/support/virtual_time.h"
 
 namespace keplin::test {
 
 class ScriptedPort : public SerialPort {
   public:
-    explicit ScriptedPort(VirtualTime& time) : time_(time) {}
+    // `trace`, where there is one, notes each member that is called.
+    explicit ScriptedPort(VirtualTime& time, Trace* trace = nullptr) : time_(time), trace_(trace) {}
     ~ScriptedPort() override { EXPECT_TRUE(script_.empty()) << "left: " << script_.front().first; }
 
     // The next member called must be `call`, and gives `result`.
@@ -62,12 +64,14 @@ class ScriptedPort : public SerialPort {
                           << (script_.empty() ? "nothing more" : script_.front().first);
             return -1;
         }
+        if (trace_ != nullptr) trace_->Add(call);
         const auto result = script_.front().second;
         script_.pop_front();
         return result ? *result : throw PortError(call);
     }
 
     VirtualTime& time_;
+    Trace* const trace_;
     // Each member, and what it gives: nothing when it fails.
     std::deque<std::pair<std::string, std::optional<std::int32_t>>> script_;
 };
