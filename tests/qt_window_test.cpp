@@ -47,7 +47,7 @@ TEST_F(QtWindow, FollowsTheModel) {
     EXPECT_FALSE(Find(model.PicSetup)->isVisible());
     Show(model.PicSetup);
     EXPECT_TRUE(Find(model.cmdPortTest)->isVisible());
-    model.Window.WindowState = Form::State::Minimised;
+    model.WindowState = Form::State::Minimised;
     EXPECT_TRUE(window.isMinimized());
 }
 
@@ -120,7 +120,7 @@ TEST_F(QtWindow, WhileAPressIsAtWorkALostFocusPressesNothing) {
 TEST_F(QtWindow, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
     int presses = 0;
     model.Command1.OnClick = [&] { ++presses; };
-    model.Window.OnCloseRequest = [&] { ++presses; };
+    model.OnCloseRequest = [&] { ++presses; };
     const auto pressInEachWay = [&] {
         Type(Qt::Key_Return);
         Type(Qt::Key_Space);
@@ -152,7 +152,7 @@ TEST_F(QtWindow, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
 
 TEST_F(QtWindow, AskedToCloseItAsksTheModel) {
     int requests = 0;
-    model.Window.OnCloseRequest = [&] { ++requests; };
+    model.OnCloseRequest = [&] { ++requests; };
     EXPECT_FALSE(window.close());
     QEvent logout(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &logout);

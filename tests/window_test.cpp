@@ -9,13 +9,13 @@ namespace {
 
 TEST(Window, NothingElseCanBeStartedDuringAPortTest) {
     Rig rig;
-    EXPECT_EQ(rig.window.Window.ClientHeight(), 5145);
+    EXPECT_EQ(rig.window.ClientHeight(), 5145);
     EXPECT_FALSE(rig.window.Timer1.Enabled);
     rig.window.Next_1.Press();
     rig.desktop.OnYield = [&] {
         EXPECT_FALSE(rig.window.cmdPortTest.Enabled || rig.window.cmdExit.Enabled);
         rig.window.cmdPortTest.Press();
-        rig.window.Window.RequestClose();
+        rig.window.RequestClose();
     };
     rig.window.cmdPortTest.Press();
     EXPECT_TRUE(rig.window.Next_2.CanBePressed());
@@ -48,7 +48,7 @@ TEST(Window, ClosingMinimisesAndEndsTheProgramAndNothingElseStarts) {
             rig.window.Next_1.Press();
             rig.window.cmdExit.Press();
         };
-        EXPECT_THROW(byTitleBar ? rig.window.Window.RequestClose() : rig.window.cmdExit.Press(),
+        EXPECT_THROW(byTitleBar ? rig.window.RequestClose() : rig.window.cmdExit.Press(),
                      ProgramEnded);
         EXPECT_EQ(rig.trace.Take(), "Yield\nISPMain.WindowState = Minimised\nYield\nEnd\n");
     }
