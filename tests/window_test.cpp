@@ -54,6 +54,25 @@ TEST(Window, ClosingMinimisesAndEndsTheProgramAndNothingElseStarts) {
     }
 }
 
+TEST(Window, TellsItsObserversInTheOrderInWhichTheyCame) {
+    struct Witness : Observer {
+        Witness(std::string& told, char name) : told_(told), name_(name) {}
+        void Changed(const Control&, Aspect) override { told_ += name_; }
+        std::string& told_;
+        char name_;
+    };
+    ISPMain window;
+    std::string told;
+    Witness a(told, 'a'), b(told, 'b');
+    std::optional<Observation> first(std::in_place, window, a);
+    const Observation second(window, b);
+    window.cmdExit.Enabled = false;
+    first.reset();
+    window.cmdExit.Enabled = true;
+    window.cmdExit.Enabled = true;
+    EXPECT_EQ(told, "abb");
+}
+
 TEST(Activity, TheBlockTurnsAtTheEndsOfItsTrack) {
     Rig rig;
     const auto tick = [&] { Timer1_Timer(rig.window, rig.desktop); };

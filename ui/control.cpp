@@ -24,7 +24,8 @@ bool Control::Shown() const {
 }
 
 void TellObserver(const Control& owner, Aspect aspect) {
-    if (Observer* observer = owner.form_.observer_) observer->Changed(owner, aspect);
+    for (Observer* observer : owner.form_.observers_)
+        observer->Changed(owner, aspect);
 }
 
 }  // namespace keplin

@@ -32,4 +32,12 @@ void Form::RequestClose() const {
     if (OnCloseRequest) OnCloseRequest();
 }
 
+Observation::Observation(Form& form, Observer& observer) : form_(form), observer_(observer) {
+    form_.observers_.push_back(&observer_);
+}
+
+Observation::~Observation() {
+    std::erase(form_.observers_, &observer_);
+}
+
 }  // namespace keplin

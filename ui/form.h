@@ -21,10 +21,6 @@ class Form : public Control {
     // In the order of their making; a later one lies above an earlier one.
     [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
 
-    // The observer is told of all changes of the form and its controls. It must outlive them or be
-    // taken away with nullptr first.
-    void Observe(Observer* observer) { observer_ = observer; }
-
     // The height of the client area, which the frame leaves of the outer height.
     [[nodiscard]] float ClientHeight() const;
 
@@ -37,10 +33,26 @@ class Form : public Control {
 
   private:
     friend class Control;
+    friend class Observation;
     friend void TellObserver(const Control& owner, Aspect aspect);
 
     std::vector<Control*> controls_;
-    Observer* observer_ = nullptr;
+    std::vector<Observer*> observers_;
+};
+
+// For as long as it exists, the observer is told of all changes of the form and its controls. Of
+// several observers the one that came first is told first; none comes or goes while one is told.
+class Observation {
+  public:
+    // Form and observer must outlive it.
+    Observation(Form& form, Observer& observer);
+    ~Observation();
+    Observation(const Observation&) = delete;
+    Observation& operator=(const Observation&) = delete;
+
+  private:
+    Form& form_;
+    Observer& observer_;
 };
 
 }  // namespace keplin

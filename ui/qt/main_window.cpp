@@ -53,11 +53,7 @@ MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
         ApplyToWindow(aspect);
     focus_.AfterChange();
     guard_.AfterChange();
-    model.Observe(this);
-}
-
-MainWindow::~MainWindow() {
-    model_.Observe(nullptr);
+    following_.emplace(model, *this);
 }
 
 // Whether the window closes is the model's to decide. A request that waited for a pause to end, or
