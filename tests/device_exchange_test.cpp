@@ -76,7 +76,7 @@ TEST_F(DeviceExchangeTest, SilenceEndsTheExchangeAfterThirtySecondsFromTheLastBy
 TEST_F(DeviceExchangeTest, AYieldThatTheTechnicianHoldsUpIsNoSilence) {
     bool held = false;
     desktop.OnYield = [&] {
-        if (!std::exchange(held, true)) desktop.Clock += 40s;
+        if (!std::exchange(held, true)) time.Now += 40s;
     };
     port.ExpectDiscardStep().Expect("WriteText :00").Expect("ReadByte", -1).ExpectReads(":00.\n");
     EXPECT_TRUE(controller.SendDataLine(":00"));
