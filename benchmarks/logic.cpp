@@ -41,7 +41,7 @@ class LastPanelWatch : public Observer {
   public:
     explicit LastPanelWatch(ISPMain& window) : window_(window) {}
 
-    void Changed(const Control& control, Aspect) override {
+    void Changed(const Control& control, const PropertyBase&) override {
         if (&control == &window_.StatusBar2.Panels(3)) Shown = Mark();
     }
     Mark Shown;

@@ -17,9 +17,9 @@ class Ear : public Observer {
         rig.desktop.OnYield = [this] { Listen(); };
     }
 
-    void Changed(const Control& control, Aspect aspect) override {
-        texts_.Changed(control, aspect);
-        if (EndsAWait(rig_.window, control, aspect)) heard_ += "[call]\n";
+    void Changed(const Control& control, const PropertyBase& property) override {
+        texts_.Changed(control, property.Which);
+        if (EndsAWait(rig_.window, control, property.Which)) heard_ += "[call]\n";
     }
 
     void Listen() {
