@@ -93,7 +93,7 @@ TEST(SpokenTexts, APortTestThatEndsBehindTheProgrammingPageIsNoRun) {
     EXPECT_EQ(heard.find("stopped"), std::string::npos) << heard;
     EXPECT_TRUE(rig.loader.ObeyedRecords().empty());
     rig.window.Command1.Press();
-    EXPECT_TRUE(rig.Completed());
+    EXPECT_TRUE(rig.window.UpdateComplete());
 }
 
 }  // namespace
