@@ -41,7 +41,7 @@ class LastPanelWatch : public Observer {
   public:
     explicit LastPanelWatch(ISPMain& window) : window_(window) {}
 
-    void Changed(const Control& control, Aspect) override {
+    void Changed(const Control& control, const PropertyBase&) override {
         if (&control == &window_.StatusBar2.Panels(3)) Shown = Mark();
     }
     Mark Shown;
@@ -89,7 +89,7 @@ void Session(benchmark::State& state, const std::string& path) {
         rig.trace.Recording = false;
         rig.ReachProgramPage(path);
         rig.window.Command1.Press();
-        if (!rig.Completed()) state.SkipWithError("not completed");
+        if (!rig.window.UpdateComplete()) state.SkipWithError("not completed");
         exchanges = static_cast<long>(rig.port.Sent.size());
     }
     state.counters["exchanges"] = static_cast<double>(exchanges);
@@ -110,7 +110,7 @@ bool ControllerTakes(const std::string& path) {
     rig.trace.Recording = false;
     rig.ReachProgramPage(path);
     rig.window.Command1.Press();
-    return rig.Completed();
+    return rig.window.UpdateComplete();
 }
 
 void Register(const std::string& path) {

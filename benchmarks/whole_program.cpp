@@ -54,7 +54,7 @@ class Measurement {
         const Moment start = Now();
         program_.window.Command1.Press();
         const Moment end = Now();
-        Demand(program_.window.Frame2.Caption.Get() == "Update Complete", "the update stopped");
+        Demand(program_.window.UpdateComplete(), "the update stopped");
         std::cout << "run " << start << " " << end << "\n"
                   << "processor " << ProcessorTime() - processor << "\n";
         for (const Exchange& exchange : exchanges_) {

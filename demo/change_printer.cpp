@@ -2,20 +2,18 @@
 
 #include <iostream>
 
-#include "ui/describe.h"
-
 namespace keplin {
 namespace {
 
 bool IsWorthALine(Aspect aspect) {
-    return aspect == Aspect::Caption || aspect == Aspect::Visible || aspect == Aspect::Enabled ||
-           aspect == Aspect::Value;
+    return aspect == Aspect::Caption || aspect == Aspect::Text || aspect == Aspect::Visible ||
+           aspect == Aspect::Enabled || aspect == Aspect::Value;
 }
 
 }  // namespace
 
-void ChangePrinter::Changed(const Control& control, Aspect aspect) {
-    if (IsWorthALine(aspect)) std::cout << Describe(control, aspect) << std::endl;
+void ChangePrinter::Changed(const Control&, const PropertyBase& property) {
+    if (IsWorthALine(property.Which)) std::cout << property.Line() << std::endl;
 }
 
 }  // namespace keplin

@@ -11,7 +11,7 @@ class ChangePrinter : public Observer {
     explicit ChangePrinter(Form& window) : observing_(window, *this) {}
 
     // Prints changes of a text, a page, an enabled state and the progress on standard output.
-    void Changed(const Control& control, Aspect aspect) override;
+    void Changed(const Control& control, const PropertyBase& property) override;
 
   private:
     Observation observing_;

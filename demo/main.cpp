@@ -86,7 +86,7 @@ class Demonstration {
 
     // What is wrong after a walk, or nothing.
     std::string Complaint(const DemoController::Memory& memory) const {
-        if (!walk_.Completed()) return "The completion page was not reached.";
+        if (!program_.window.UpdateComplete()) return "The completion page was not reached.";
         const DemoController::Memory image = ImageOfFile(options_.file);
         if (image.empty()) {
             return "The completion page stands, but what the file describes is no memory.";

@@ -41,7 +41,8 @@ void StagePictures::Take(std::string_view name) {
     }
 }
 
-void StagePictures::Changed(const Control& control, Aspect aspect) {
+void StagePictures::Changed(const Control& control, const PropertyBase& property) {
+    const Aspect aspect = property.Which;
     if (&control == &window_.lblResults && aspect == Aspect::Caption) {
         Take(window_.lblResults.Caption.Get());
     }

@@ -19,7 +19,7 @@ class StagePictures : public Observer {
 
     // Takes a picture when the change begins a stage: a text of the port search or of the update,
     // the middle of the programming.
-    void Changed(const Control& control, Aspect aspect) override;
+    void Changed(const Control& control, const PropertyBase& property) override;
 
   private:
     const ISPMain& window_;

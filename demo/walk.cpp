@@ -11,27 +11,30 @@ Walk::Walk(const ISPMain& window, QWidget& drawing, StagePictures& pictures, boo
 
 void Walk::Go() {
     ReachEnd();
-    if (!Completed()) PrintStop();
+    if (!window_.UpdateComplete()) PrintStop();
     Press(window_.cmdExit);
 }
 
 void Walk::ReachEnd() {
+    const auto portFound = [this] { return window_.Next_2.CanBePressed(); };
+    const auto completed = [this] { return window_.UpdateComplete(); };
     pictures_.Take("Getting started");
     Press(window_.Next_1);
     pictures_.Take("Setup");
-    PressUntil(window_.cmdPortTest, &Walk::PortFound);
+    PressUntil(window_.cmdPortTest, portFound);
     pictures_.Take("Port test done");
-    if (!PortFound()) return;
+    if (!portFound()) return;
     Press(window_.Next_2);
     pictures_.Take("File loaded");
     if (!window_.PicProgram.Shown()) return;
-    PressUntil(window_.Command1, &Walk::Completed);
-    pictures_.Take(Completed() ? "Update complete" : "Update stopped");
+    PressUntil(window_.Command1, completed);
+    pictures_.Take(completed() ? "Update complete" : "Update stopped");
 }
 
-void Walk::PressUntil(const Button& button, bool (Walk::*done)() const) {
+template <typename Done>
+void Walk::PressUntil(const Button& button, Done&& done) {
     Press(button);
-    if (!(this->*done)() && again_) {
+    if (!done() && again_) {
         PrintStop();
         Press(button);
     }
@@ -40,14 +43,6 @@ void Walk::PressUntil(const Button& button, bool (Walk::*done)() const) {
 void Walk::Press(const Button& button) {
     std::cout << "[press " << button.Caption.Get() << "]" << std::endl;
     drawing_.findChild<QAbstractButton*>(QString::fromStdString(button.Name))->click();
-}
-
-bool Walk::PortFound() const {
-    return window_.Next_2.CanBePressed();
-}
-
-bool Walk::Completed() const {
-    return window_.Frame2.Caption.Get() == "Update Complete";
 }
 
 void Walk::PrintStop() const {

@@ -16,15 +16,12 @@ class Walk {
     // From the getting-started page to the press on Finish or Close, which ends the program.
     void Go();
 
-    // The completion page stands.
-    [[nodiscard]] bool Completed() const;
-
   private:
     void ReachEnd();
-    void PressUntil(const Button& button, bool (Walk::*done)() const);
+    template <typename Done>
+    void PressUntil(const Button& button, Done&& done);
     void Press(const Button& button);
     void PrintStop() const;
-    [[nodiscard]] bool PortFound() const;
 
     const ISPMain& window_;
     QWidget& drawing_;

@@ -66,7 +66,7 @@ TEST_P(EveryFault, AtEveryExchangeStopsTheRunWhereItStandsAndASecondRunCompletes
     clean.rig.ReachProgramPage(file.Path());
     const int before = clean.device.ExchangesSeen();
     clean.Update();
-    ASSERT_TRUE(clean.rig.Completed());
+    ASSERT_TRUE(clean.rig.window.UpdateComplete());
     const int exchanges = clean.device.ExchangesSeen() - before;
     ASSERT_EQ(exchanges, 9 + 4);
 
@@ -84,7 +84,7 @@ TEST_P(EveryFault, AtEveryExchangeStopsTheRunWhereItStandsAndASecondRunCompletes
         ASSERT_EQ(faulty.device.Injections().size(), 1U);
         const bool passed = Passes(clean.rig.port.Sent[static_cast<std::size_t>(before + k - 1)],
                                    faulty.device.Injections().front());
-        EXPECT_EQ(faulty.rig.Completed(), passed);
+        EXPECT_EQ(faulty.rig.window.UpdateComplete(), passed);
         EXPECT_TRUE(window.cmdExit.CanBePressed());
         EXPECT_FALSE(window.Shape1.Visible || window.Shape2.Visible || window.Timer1.Enabled);
         EXPECT_FALSE(faulty.rig.desktop.Awake);
@@ -98,7 +98,7 @@ TEST_P(EveryFault, AtEveryExchangeStopsTheRunWhereItStandsAndASecondRunCompletes
         faulty.device.ClearFaults();
         faulty.rig.time.Now += std::chrono::seconds(1);
         faulty.Update();
-        EXPECT_TRUE(faulty.rig.Completed());
+        EXPECT_TRUE(faulty.rig.window.UpdateComplete());
     }
     const bool harmless = GetParam().kind == FaultKind::Noise;
     EXPECT_EQ(stops == 0, harmless);
@@ -126,7 +126,7 @@ TEST(Faults, ALostLineEndsTheExchangeAtOnceAndIsFoundAgainByTheNextRun) {
     EXPECT_EQ(PageOf(faulty.rig.window), ExpectedStop(10));  // still unplugged: nothing changes
     faulty.device.ClearFaults();
     faulty.Update();
-    EXPECT_TRUE(faulty.rig.Completed());
+    EXPECT_TRUE(faulty.rig.window.UpdateComplete());
 }
 
 // The adapter comes loose in the pause behind the erase, and another controller hangs on it when it
@@ -162,17 +162,17 @@ TEST(Faults, WhatAnAdapterKeptOfOneExchangeSpoilsTheNextAndNeverPassesForIt) {
             rig.port.KeepBack(before + k, from);
             rig.window.Command1.Press();
             const bool isPing = rig.port.Sent[before + k] == "U";
-            EXPECT_EQ(rig.Completed(), isPing && from > 0) << "nothing was kept";
-            EXPECT_EQ(rig.port.Sent.size() == before + k + 1, !rig.Completed());
-            if (rig.Completed()) continue;
+            EXPECT_EQ(rig.window.UpdateComplete(), isPing && from > 0) << "nothing was kept";
+            EXPECT_EQ(rig.port.Sent.size() == before + k + 1, !rig.window.UpdateComplete());
+            if (rig.window.UpdateComplete()) continue;
 
             // The leftover of a ping is a ping.
             rig.window.Command1.Press();
-            EXPECT_EQ(rig.Completed(), isPing);
+            EXPECT_EQ(rig.window.UpdateComplete(), isPing);
             if (isPing) continue;
             EXPECT_EQ(rig.port.Sent.size(), before + k + 2) << "more than a ping was sent";
             rig.window.Command1.Press();
-            EXPECT_TRUE(rig.Completed());
+            EXPECT_TRUE(rig.window.UpdateComplete());
         }
     }
 }

@@ -17,9 +17,9 @@ class Ear : public Observer {
         rig.desktop.OnYield = [this] { Listen(); };
     }
 
-    void Changed(const Control& control, Aspect aspect) override {
-        texts_.Changed(control, aspect);
-        if (EndsAWait(rig_.window, control, aspect)) heard_ += "[call]\n";
+    void Changed(const Control& control, const PropertyBase& property) override {
+        texts_.Changed(control, property.Which);
+        if (EndsAWait(rig_.window, control, property.Which)) heard_ += "[call]\n";
     }
 
     void Listen() {
@@ -93,7 +93,7 @@ TEST(SpokenTexts, APortTestThatEndsBehindTheProgrammingPageIsNoRun) {
     EXPECT_EQ(heard.find("stopped"), std::string::npos) << heard;
     EXPECT_TRUE(rig.loader.ObeyedRecords().empty());
     rig.window.Command1.Press();
-    EXPECT_TRUE(rig.Completed());
+    EXPECT_TRUE(rig.window.UpdateComplete());
 }
 
 }  // namespace

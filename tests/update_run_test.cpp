@@ -40,7 +40,7 @@ TEST(UpdateRun, SendsUpToTheFirstEmptySlotOrTheLastOfTenThousandAndOne) {
         const TemporaryFile file(contents);
         rig.ReachProgramPage(file.Path());
         rig.window.Command1.Press();
-        EXPECT_TRUE(rig.Completed());
+        EXPECT_TRUE(rig.window.UpdateComplete());
         EXPECT_EQ(rig.window.ProgressBar1.Max, lines);
         EXPECT_EQ(rig.window.ProgressBar1.Value, std::max(sent - 1, 0));
         EXPECT_EQ(std::ssize(rig.loader.ObeyedRecords()), 6 + sent);
@@ -69,7 +69,7 @@ TEST(UpdateRun, NoFailureLeavesAHandler) {
     failing(rig.window.Command1, 10);
     rig.desktop.AwakeFails = true;
     rig.window.Command1.Press();
-    EXPECT_TRUE(rig.Completed());
+    EXPECT_TRUE(rig.window.UpdateComplete());
 }
 
 }  // namespace

@@ -57,7 +57,7 @@ TEST(Window, ClosingMinimisesAndEndsTheProgramAndNothingElseStarts) {
 TEST(Window, TellsItsObserversInTheOrderInWhichTheyCame) {
     struct Witness : Observer {
         Witness(std::string& told, char name) : told_(told), name_(name) {}
-        void Changed(const Control&, Aspect) override { told_ += name_; }
+        void Changed(const Control&, const PropertyBase&) override { told_ += name_; }
         std::string& told_;
         char name_;
     };

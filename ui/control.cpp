@@ -23,9 +23,9 @@ bool Control::Shown() const {
     return Visible && (Container == nullptr || Container->Shown());
 }
 
-void TellObserver(const Control& owner, Aspect aspect) {
-    for (Observer* observer : owner.form_.observers_)
-        observer->Changed(owner, aspect);
+void Control::Tell(const PropertyBase& changed) const {
+    for (Observer* observer : form_.observers_)
+        observer->Changed(*this, changed);
 }
 
 }  // namespace keplin

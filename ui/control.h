@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "ui/property.h"
 
@@ -38,6 +39,9 @@ class Control {
 
     virtual void Accept(ControlVisitor& visitor) const = 0;
 
+    // The text that is read on it and not pressed; empty where there is none.
+    [[nodiscard]] virtual std::string_view TextToRead() const { return {}; }
+
     // Visible itself and with it every container around it.
     [[nodiscard]] bool Shown() const;
 
@@ -52,7 +56,9 @@ class Control {
     Property<float> Height;  // twips
 
   private:
-    friend void TellObserver(const Control& owner, Aspect aspect);
+    friend class PropertyBase;
+    void Tell(const PropertyBase& changed) const;
+
     Form& form_;
 };
 

@@ -76,7 +76,7 @@ Panel::Panel(Form& form, const Control& bar, std::string name, std::string descr
       MinimumWidth(minimumWidth),
       TextAlignment(alignment),
       Sizing(sizing),
-      Text(*this, Aspect::Caption, "") {}
+      Text(*this, Aspect::Text, "") {}
 
 StatusBar::StatusBar(Form& form, std::string name, Place place, float aboveBottom)
     : Control(form, nullptr, std::move(name), place), AboveBottom(aboveBottom) {}

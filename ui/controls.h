@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "ui/form.h"
@@ -43,6 +44,7 @@ class Frame : public Control {
     Frame(Form& form, const Control& page, std::string name, std::string caption, Place place,
           Colour background);
     void Accept(ControlVisitor& visitor) const override;
+    [[nodiscard]] std::string_view TextToRead() const override { return Caption.Get(); }
 
     const Colour Background;
     Property<std::string> Caption;
@@ -54,6 +56,7 @@ class Label : public Control {
     Label(Form& form, const Control* container, std::string name, std::string caption, Place place,
           TextStyle style = {});
     void Accept(ControlVisitor& visitor) const override;
+    [[nodiscard]] std::string_view TextToRead() const override { return Caption.Get(); }
 
     const TextStyle Style;
     Property<std::string> Caption;
@@ -137,6 +140,7 @@ class Panel : public Control {
     Panel(Form& form, const Control& bar, std::string name, std::string description,
           float minimumWidth, Alignment alignment, PanelSizing sizing);
     void Accept(ControlVisitor& visitor) const override;
+    [[nodiscard]] std::string_view TextToRead() const override { return Text.Get(); }
 
     const std::string Description;  // what its text tells, for a screen reader
     const float MinimumWidth;       // twips

@@ -32,6 +32,10 @@ void Form::RequestClose() const {
     if (OnCloseRequest) OnCloseRequest();
 }
 
+std::string Written(Form::State state) {
+    return state == Form::State::Minimised ? "Minimised" : "Normal";
+}
+
 Observation::Observation(Form& form, Observer& observer) : form_(form), observer_(observer) {
     form_.observers_.push_back(&observer_);
 }

@@ -34,11 +34,12 @@ class Form : public Control {
   private:
     friend class Control;
     friend class Observation;
-    friend void TellObserver(const Control& owner, Aspect aspect);
 
     std::vector<Control*> controls_;
     std::vector<Observer*> observers_;
 };
+
+std::string Written(Form::State state);
 
 // For as long as it exists, the observer is told of all changes of the form and its controls. Of
 // several observers the one that came first is told first; none comes or goes while one is told.

@@ -116,6 +116,10 @@ ISPMain::ISPMain()
     addPanel(StatusBar2, "StatusBar2.Panels(3)", "Checksum", 1440, Alignment::Centre, Share);
 }
 
+bool ISPMain::UpdateComplete() const {
+    return Visible && Frame2.Shown() && Frame2.Caption.Get() == kUpdateComplete;
+}
+
 void Win95Shrivel(Form& xForm) {
     xForm.WindowState = Form::State::Minimised;
 }

@@ -16,9 +16,15 @@ inline constexpr float kShownPageTop = 840;
 // The window's outer height from the start on, in twips; below it lies only what is never shown.
 inline constexpr float kShownHeight = 5460;
 
+// What the programming page is called once it is the completion page.
+inline constexpr const char* kUpdateComplete = "Update Complete";
+
 class ISPMain : public Form {
   public:
     ISPMain();
+
+    // The technician sees the completion page: every line of the update was acknowledged.
+    [[nodiscard]] bool UpdateComplete() const;
 
     // Directly on the window.
     Label Label7;

@@ -1,13 +1,15 @@
-// A property of a control: remembers what was set and tells when that changes.
+// A property of a control: remembers what was set, tells when that changes, and describes itself.
 #pragma once
 
+#include <string>
 #include <utility>
 
 namespace keplin {
 
 class Control;
+class PropertyBase;
 
-// Which property of a control changed.
+// Which property of a control.
 enum class Aspect {
     Visible,
     Enabled,
@@ -15,6 +17,7 @@ enum class Aspect {
     Top,
     Height,
     Caption,
+    Text,
     Bold,
     Min,
     Max,
@@ -26,25 +29,48 @@ enum class Aspect {
 class Observer {
   public:
     virtual ~Observer() = default;
-    virtual void Changed(const Control& control, Aspect aspect) = 0;
+    virtual void Changed(const Control& control, const PropertyBase& property) = 0;
 };
 
-// Hands a change of `owner` to the window's observers.
-void TellObserver(const Control& owner, Aspect aspect);
+// What a property is, as a trace writes it: "a text" in quotes, True or False, and a number as the
+// shortest text that gives it back, a whole one without a point.
+std::string Written(const std::string& text);
+std::string Written(bool value);
+std::string Written(float value);
+
+// A property of any type.
+class PropertyBase {
+  public:
+    PropertyBase(const PropertyBase&) = delete;
+    PropertyBase& operator=(const PropertyBase&) = delete;
+
+    // Whose it is, its name and what it is now: lblPrgm.Caption = "All Blocks Erased".
+    [[nodiscard]] std::string Line() const;
+
+    const Aspect Which;
+
+  protected:
+    PropertyBase(const Control& owner, Aspect aspect) : Which(aspect), owner_(owner) {}
+    ~PropertyBase() = default;
+    void TellObservers() const;
+
+  private:
+    [[nodiscard]] virtual std::string WrittenValue() const = 0;
+
+    const Control& owner_;
+};
 
 template <typename T>
-class Property {
+class Property final : public PropertyBase {
   public:
     Property(const Control& owner, Aspect aspect, T initial)
-        : owner_(owner), aspect_(aspect), value_(std::move(initial)) {}
-    Property(const Property&) = delete;
-    Property& operator=(const Property&) = delete;
+        : PropertyBase(owner, aspect), value_(std::move(initial)) {}
 
     // Setting the value that already stands is no change and tells nobody.
     Property& operator=(T value) {
         if (value == value_) return *this;
         value_ = std::move(value);
-        TellObserver(owner_, aspect_);
+        TellObservers();
         return *this;
     }
 
@@ -52,8 +78,8 @@ class Property {
     [[nodiscard]] const T& Get() const { return value_; }
 
   private:
-    const Control& owner_;
-    const Aspect aspect_;
+    [[nodiscard]] std::string WrittenValue() const override { return Written(value_); }
+
     T value_;
 };
 

@@ -11,26 +11,6 @@ namespace {
 // gone and by Close, which can be pressed again.
 constexpr std::string_view kRunStopped = "The update has stopped.";
 
-// A text that is read and not pressed; a button's is spoken with the focus.
-class TextOf : public ControlVisitor {
-  public:
-    explicit TextOf(const Control& control) { control.Accept(*this); }
-
-    void Visit(const Label& label) override { Text = label.Caption.Get(); }
-    void Visit(const Frame& frame) override { Text = frame.Caption.Get(); }
-    void Visit(const Panel& panel) override { Text = panel.Text.Get(); }
-    void Visit(const Form&) override {}
-    void Visit(const Page&) override {}
-    void Visit(const Button&) override {}
-    void Visit(const Picture&) override {}
-    void Visit(const Shape&) override {}
-    void Visit(const ProgressBar&) override {}
-    void Visit(const StatusBar&) override {}
-    void Visit(const Timer&) override {}
-
-    std::string_view Text;
-};
-
 // Sentence by sentence, so that the voice pauses between two texts.
 void Append(std::string& message, std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
@@ -42,7 +22,9 @@ void Append(std::string& message, std::string_view text) {
 }  // namespace
 
 bool SpokenTexts::Changed(const Control& control, Aspect aspect) {
-    if (aspect == Aspect::Caption || aspect == Aspect::Visible) Add(control);
+    if (aspect == Aspect::Caption || aspect == Aspect::Text || aspect == Aspect::Visible) {
+        Add(control);
+    }
     if (aspect == Aspect::Visible) {
         // Labels that come with their page; what a frame holds is read when the focus enters it.
         for (const Control* other : window_.Controls()) {
@@ -72,7 +54,7 @@ std::string SpokenTexts::Take() {
 std::string SpokenTexts::Latest() const {
     std::string message;
     for (const Control* control : taken_.texts) {
-        if (CanBeRead(*control)) Append(message, TextOf(*control).Text);
+        if (CanBeRead(*control)) Append(message, control->TextToRead());
     }
     if (taken_.runStopped && RunStopped()) Append(message, kRunStopped);
     return message;
@@ -83,7 +65,7 @@ bool SpokenTexts::RunStopped() const {
 }
 
 bool SpokenTexts::CanBeRead(const Control& control) const {
-    return window_.Visible && control.Shown() && !TextOf(control).Text.empty();
+    return window_.Visible && control.Shown() && !control.TextToRead().empty();
 }
 
 void SpokenTexts::Add(const Control& control) {

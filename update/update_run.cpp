@@ -93,7 +93,7 @@ bool UpdateRun::SendLines() {
 void UpdateRun::ShowUpdateComplete() {
     auto& lblPrg = window_.lblPrg;
     window_.Command1.Visible = false;
-    window_.Frame2.Caption = "Update Complete";
+    window_.Frame2.Caption = kUpdateComplete;
     window_.ProgressBar1.Visible = false;
     window_.Label10.Visible = false;
     for (Label& line : lblPrg)

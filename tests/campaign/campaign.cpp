@@ -34,9 +34,9 @@ class RandomTechnician {
                 ++tally.noFile;
                 return wrong_;
             }
-            for (int run = 0; run < 3 && !rig_.Completed(); ++run)
+            for (int run = 0; run < 3 && !rig_.window.UpdateComplete(); ++run)
                 Update();
-            ++(rig_.Completed() ? tally.completed : tally.stopped);
+            ++(rig_.window.UpdateComplete() ? tally.completed : tally.stopped);
         } catch (const ProgramEnded&) {
             ++tally.closed;
             Demand(!rig_.desktop.EndedBusy, "the program ended during a search or a run");
@@ -83,7 +83,7 @@ class RandomTechnician {
                    !rig_.window.Timer1.Enabled,
                "the activity indicator is on after a run");
         Demand(!rig_.desktop.Awake, "the computer is kept awake after a run");
-        if (rig_.Completed()) {
+        if (rig_.window.UpdateComplete()) {
             DemandEveryLineObeyed();
         } else {
             Demand(rig_.window.Command1.CanBePressed(), "Update cannot be pressed after a stop");

@@ -65,7 +65,7 @@ struct Program {
     // Whether the window says that the update is complete.
     bool Update() {
         window.Command1.Press();
-        return window.Frame2.Caption.Get() == "Update Complete";
+        return window.UpdateComplete();
     }
 
     ISPMain window;

@@ -32,10 +32,6 @@ struct Rig : VirtualScreen {
         window.Next_2.Press();
     }
 
-    [[nodiscard]] bool Completed() const {
-        return window.Frame2.Caption.Get() == "Update Complete";
-    }
-
     simulator::Loader loader;
     VirtualPort port;
     Session session{window, port, desktop};

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/describe.h"
+#include "ui/control.h"
 
 namespace keplin::test {
 
@@ -23,9 +23,9 @@ class Trace : public Observer {
         if (line != kWait || lines_.empty() || lines_.back() != kWait) lines_.push_back(line);
     }
 
-    void Changed(const Control& control, Aspect aspect) override {
+    void Changed(const Control& control, const PropertyBase& property) override {
         if (!Recording) return;
-        if (control.Name != "Shape2" || aspect != Aspect::Left) Add(Describe(control, aspect));
+        if (control.Name != "Shape2" || property.Which != Aspect::Left) Add(property.Line());
     }
 
     // All lines since the last Take, each ended by a line feed.

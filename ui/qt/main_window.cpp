@@ -64,7 +64,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (guard_.Takes(model_.cmdExit)) model_.RequestClose();
 }
 
-void MainWindow::Changed(const Control& control, Aspect aspect) {
+void MainWindow::Changed(const Control& control, const PropertyBase& property) {
+    const Aspect aspect = property.Which;
     const bool reach = aspect == Aspect::Visible || aspect == Aspect::Enabled;
     if (reach) focus_.BeforeChange();
     Apply(control, aspect);

@@ -20,7 +20,7 @@ class MainWindow : public QWidget, public Observer {
     // can be pressed.
     explicit MainWindow(ISPMain& model, PressGuard::Clock clock = std::chrono::steady_clock::now);
 
-    void Changed(const Control& control, Aspect aspect) override;
+    void Changed(const Control& control, const PropertyBase& property) override;
 
   protected:
     void closeEvent(QCloseEvent* event) override;

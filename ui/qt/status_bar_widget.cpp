@@ -33,7 +33,7 @@ PanelWidget::PanelWidget(const keplin::Panel& panel, StatusBarWidget& bar)
 
 void PanelWidget::Apply(Aspect aspect) {
     setVisible(panel_.Visible);
-    if (aspect == Aspect::Caption) bar_.Arrange();
+    if (aspect == Aspect::Text) bar_.Arrange();
 }
 
 int PanelWidget::BesideText() const {

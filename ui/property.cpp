@@ -1,0 +1,66 @@
+#include "ui/property.h"
+
+#include <array>
+#include <charconv>
+
+#include "ui/control.h"
+
+namespace keplin {
+namespace {
+
+// As the design knows them.
+const char* NameOf(Aspect aspect) {
+    switch (aspect) {
+        case Aspect::Visible:
+            return "Visible";
+        case Aspect::Enabled:
+            return "Enabled";
+        case Aspect::Left:
+            return "Left";
+        case Aspect::Top:
+            return "Top";
+        case Aspect::Height:
+            return "Height";
+        case Aspect::Caption:
+            return "Caption";
+        case Aspect::Text:
+            return "Text";
+        case Aspect::Bold:
+            return "Bold";
+        case Aspect::Min:
+            return "Min";
+        case Aspect::Max:
+            return "Max";
+        case Aspect::Value:
+            return "Value";
+        case Aspect::WindowState:
+            return "WindowState";
+    }
+    return "";
+}
+
+}  // namespace
+
+std::string Written(const std::string& text) {
+    return '"' + text + '"';
+}
+
+std::string Written(bool value) {
+    return value ? "True" : "False";
+}
+
+std::string Written(float value) {
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    return {digits.data(), end};
+}
+
+std::string PropertyBase::Line() const {
+    return owner_.Name + "." + NameOf(Which) + " = " + WrittenValue();
+}
+
+void PropertyBase::TellObservers() const {
+    owner_.Tell(*this);
+}
+
+}  // namespace keplin
