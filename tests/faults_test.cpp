@@ -146,7 +146,7 @@ TEST(Faults, AControllerThatComesIntoTheMidstOfAnUpdateIsNotProgrammed) {
     EXPECT_EQ(PageOf(faulty.rig.window), ExpectedStop(8));
     EXPECT_TRUE(faulty.loader.ObeyedRecords().empty());
     faulty.Update();
-    EXPECT_TRUE(faulty.rig.Completed());
+    EXPECT_TRUE(faulty.rig.window.UpdateComplete());
 }
 
 // What a stuck adapter kept of a record leaves when it takes bytes again: ahead of the next ping.
