@@ -2,7 +2,7 @@
 
 #include "tests/support/rig.h"
 #include "ui/activity.h"
-#include "ui/panel_widths.h"
+#include "ui/status_panels.h"
 
 namespace keplin::test {
 namespace {

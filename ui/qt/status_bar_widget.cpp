@@ -3,7 +3,7 @@
 #include <QStyleOptionFrame>
 #include <cmath>
 
-#include "ui/panel_widths.h"
+#include "ui/status_panels.h"
 
 namespace keplin::qt {
 namespace {

@@ -1,0 +1,118 @@
+#include "ui/status_panels.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace keplin {
+namespace {
+
+constexpr int kMargin = 3;  // pixels between the bevel and the text
+constexpr int kGap = 2;     // pixels between two panels
+constexpr const char* kEllipsis = "\u2026";
+
+// A byte that goes on with the character before it, or begins a mark that stands on it: the first
+// byte of all such marks is 0xCC, or 0xCD before 0xB0.
+bool GoesOn(const std::string& text, std::size_t at) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    if (byte(at) >= 0x80 && byte(at) < 0xC0) return true;
+    if (at + 1 >= text.size()) return false;
+    return byte(at) == 0xCC || (byte(at) == 0xCD && byte(at + 1) < 0xB0);
+}
+
+std::size_t NextCharacter(const std::string& text, std::size_t at) {
+    do {
+        ++at;
+    } while (at < text.size() && GoesOn(text, at));
+    return at;
+}
+
+std::size_t PreviousCharacter(const std::string& text, std::size_t at) {
+    do {
+        --at;
+    } while (at > 0 && GoesOn(text, at));
+    return at;
+}
+
+// The pixels beside a panel's text, left and right together.
+int BesideText(int bevel) {
+    return 2 * (kMargin + bevel);
+}
+
+std::vector<float> Widths(const StatusBar& bar, int barWidth, const Scale& scale, int bevel,
+                          const TextWidth& width) {
+    std::vector<float> minimums;
+    std::vector<float> texts;
+    for (std::size_t i = 1; i <= bar.PanelCount(); ++i) {
+        const Panel& panel = bar.Panels(i);
+        minimums.push_back(static_cast<float>(scale.Pixels(panel.MinimumWidth)));
+        texts.push_back(static_cast<float>(width(panel.Text) + BesideText(bevel) + kGap));
+    }
+    return PanelWidths(bar, static_cast<float>(barWidth), minimums, texts);
+}
+
+PanelView ViewOf(const Panel& panel, const PixelRect& place, int bevel, const TextWidth& width) {
+    const std::string& whole = panel.Text;
+    const int room = place.width - BesideText(bevel);
+    if (width(whole) <= room) return {place, kMargin, whole, ""};
+    return {place, kMargin, ShortenedInMiddle(whole, room, width), whole};
+}
+
+}  // namespace
+
+std::vector<float> PanelWidths(const StatusBar& bar, float barWidth,
+                               std::span<const float> minimums, std::span<const float> texts) {
+    std::vector<float> widths(bar.PanelCount());
+    float left = barWidth;
+    float sharing = 0;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        if (bar.Panels(i + 1).Sizing == PanelSizing::Share) {
+            ++sharing;
+        } else {
+            widths[i] = std::max(minimums[i], texts[i]);
+            left -= widths[i];
+        }
+    }
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        if (bar.Panels(i + 1).Sizing == PanelSizing::Share) {
+            widths[i] = std::max(minimums[i], left / sharing);
+        }
+    }
+    return widths;
+}
+
+std::string ShortenedInMiddle(const std::string& text, int room, const TextWidth& width) {
+    if (width(text) <= room) return text;
+    const int left = room - width(kEllipsis);
+    if (left < 0) return "";
+    std::string beginning;
+    std::string end;
+    for (;;) {
+        const int used = width(beginning);
+        const int usedAtEnd = width(end);
+        std::string longer = beginning;
+        std::string longerEnd = end;
+        if (used < usedAtEnd) {
+            longer = text.substr(0, NextCharacter(text, beginning.size()));
+        } else {
+            longerEnd = text.substr(PreviousCharacter(text, text.size() - end.size()));
+        }
+        if (width(longer) + width(longerEnd) > left) return beginning + kEllipsis + end;
+        beginning = longer;
+        end = longerEnd;
+    }
+}
+
+std::vector<PanelView> ArrangePanels(const StatusBar& bar, PixelSize size, const Scale& scale,
+                                     int bevel, const TextWidth& width) {
+    std::vector<PanelView> views;
+    float left = 0;
+    for (const float share : Widths(bar, size.width, scale, bevel, width)) {
+        const int from = static_cast<int>(std::lround(left));
+        const int to = static_cast<int>(std::lround(left += share));
+        const PixelRect place{from, 1, to - from - kGap, size.height - 1};
+        views.push_back(ViewOf(bar.Panels(views.size() + 1), place, bevel, width));
+    }
+    return views;
+}
+
+}  // namespace keplin
