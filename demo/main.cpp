@@ -32,12 +32,12 @@ class Demonstration {
           ribbon_(MarkAsDemonstration(program_.drawing)),
           pictures_(program_.window, program_.drawing, ribbon_, options_.pictures),
           walk_(program_.window, program_.drawing, pictures_, options_.again),
-          printer_(program_.drawing, [this](const Control& control, Aspect aspect) {
+          printer_(program_.drawing.ModelObserver(), [this](const Control& control, Aspect aspect) {
               pictures_.TakeAtStage(control, aspect);
           }) {
         OpenManualOnF1(program_.drawing);
     }
-    ~Demonstration() { program_.window.Observe(&program_.drawing); }
+    ~Demonstration() { program_.window.Observe(&program_.drawing.ModelObserver()); }
     Demonstration(const Demonstration&) = delete;
     Demonstration& operator=(const Demonstration&) = delete;
 

@@ -37,9 +37,6 @@ class TextMeasure {
                                                              const TextFont& font,
                                                              Alignment alignment,
                                                              double width) const = 0;
-
-    // How wide the text is on one line.
-    [[nodiscard]] virtual int LineWidth(const std::string& text, const TextFont& font) const = 0;
 };
 
 }  // namespace keplin
