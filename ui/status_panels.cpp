@@ -80,26 +80,22 @@ std::vector<float> PanelWidths(const StatusBar& bar, float barWidth,
     return widths;
 }
 
+// Letter by letter on the side that shows less.
 std::string ShortenedInMiddle(const std::string& text, int room, const TextWidth& width) {
     if (width(text) <= room) return text;
-    const int left = room - width(kEllipsis);
-    if (left < 0) return "";
-    std::string beginning;
-    std::string end;
-    for (;;) {
-        const int used = width(beginning);
-        const int usedAtEnd = width(end);
-        std::string longer = beginning;
-        std::string longerEnd = end;
-        if (used < usedAtEnd) {
-            longer = text.substr(0, NextCharacter(text, beginning.size()));
+    std::size_t beginning = 0;  // up to here
+    std::size_t end = text.size();
+    std::string shortened;
+    for (std::string longer = kEllipsis; beginning < end && width(longer) <= room;) {
+        shortened = longer;
+        if (width(text.substr(0, beginning)) < width(text.substr(end))) {
+            beginning = NextCharacter(text, beginning);
         } else {
-            longerEnd = text.substr(PreviousCharacter(text, text.size() - end.size()));
+            end = PreviousCharacter(text, end);
         }
-        if (width(longer) + width(longerEnd) > left) return beginning + kEllipsis + end;
-        beginning = longer;
-        end = longerEnd;
+        longer = text.substr(0, beginning) + kEllipsis + text.substr(end);
     }
+    return shortened;
 }
 
 std::vector<PanelView> ArrangePanels(const StatusBar& bar, PixelSize size, const Scale& scale,
