@@ -1,0 +1,168 @@
+// What happens at each change of the window and at each press, whatever draws it.
+#include <gtest/gtest.h>
+
+#include "tests/support/plain_drawing.h"
+
+namespace keplin::test {
+namespace {
+
+// The window with its getting-started page.
+class FollowerTest : public testing::Test {
+  protected:
+    FollowerTest() {
+        for (Control* hidden : std::initializer_list<Control*>{
+                 &model.lblPrgm, &model.PicGettingStarted, &model.PicSetup, &model.PicProgram})
+            hidden->Visible = false;
+        ShowPage(model.PicGettingStarted);
+        drawing.follower.Start();
+        model.Window.Visible = true;
+        LetButtonsBePressed();
+    }
+
+    void LetButtonsBePressed() { drawing.now += PressGuard::kPause; }
+
+    void Show(Page& page) {
+        for (Page* other : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {
+            if (other != &page) other->Visible = false;
+        }
+        ShowPage(page);
+        LetButtonsBePressed();
+    }
+
+    [[nodiscard]] std::string Focused() const {
+        return drawing.focused == nullptr ? "" : drawing.focused->Name;
+    }
+    // On the button that has the focus.
+    void Enter() {
+        if (drawing.focused == nullptr) return;
+        const Button& button = *drawing.focused;
+        if (drawing.follower.KeyDown(button, PressKey::Enter, false) == KeyEffect::Press)
+            drawing.follower.Press(button);
+    }
+
+    ISPMain model;
+    PlainDrawing drawing{model};
+};
+
+TEST_F(FollowerTest, TheFocusGoesToAButtonThatCanBePressed) {
+    EXPECT_EQ(Focused(), "Next_1");
+    drawing.Focus(nullptr);
+    model.PicGettingStarted.Visible = false;
+    EXPECT_EQ(Focused(), "cmdExit");
+    model.Next_2.Enabled = false;
+    Show(model.PicSetup);
+    EXPECT_EQ(Focused(), "cmdPortTest");
+    model.Next_2.Enabled = true;
+    EXPECT_EQ(Focused(), "cmdPortTest");
+    model.cmdPortTest.Enabled = false;
+    EXPECT_EQ(Focused(), "Next_2");
+    model.cmdExit.Enabled = false;
+    model.Next_2.Enabled = false;
+    EXPECT_EQ(Focused(), "");
+    model.Next_2.Enabled = true;
+    model.cmdPortTest.Enabled = true;
+    EXPECT_EQ(Focused(), "Next_2");
+    model.cmdExit.Enabled = true;
+    drawing.Focus(&model.cmdExit);
+    Show(model.PicProgram);
+    EXPECT_EQ(Focused(), "cmdExit") << "the technician has put it there";
+}
+
+TEST_F(FollowerTest, WhileAPressIsAtWorkALostFocusPressesNothing) {
+    bool found = false;
+    model.cmdPortTest.OnClick = [&] {
+        model.cmdPortTest.Enabled = false;
+        EXPECT_EQ(Focused(), "");
+        if (found) model.Next_2.Enabled = true;
+        model.cmdPortTest.Enabled = true;
+        EXPECT_EQ(Focused(), "");
+    };
+    model.Next_2.Enabled = false;
+    Show(model.PicSetup);
+    Enter();
+    EXPECT_EQ(Focused(), "cmdPortTest");
+    LetButtonsBePressed();
+    found = true;
+    Enter();
+    EXPECT_EQ(Focused(), "Next_2");
+    drawing.Focus(&model.cmdPortTest);
+    LetButtonsBePressed();
+    Enter();
+    EXPECT_EQ(Focused(), "cmdPortTest");
+}
+
+// The second stroke of a double press, and a click on a grey button or on the title bar's close
+// control that waits for a pause to end.
+TEST_F(FollowerTest, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
+    const Follower& follower = drawing.follower;
+    int requests = 0;
+    model.Window.OnCloseRequest = [&] { ++requests; };
+    const auto takes = [&](bool repeated = false) {
+        const KeyEffect enter = follower.KeyDown(model.Command1, PressKey::Enter, repeated);
+        const KeyEffect space = follower.KeyDown(model.Command1, PressKey::Space, repeated);
+        const bool mouse = follower.MouseDown(model.Command1);
+        EXPECT_EQ(enter == KeyEffect::Press, mouse && !repeated);
+        EXPECT_EQ(space == KeyEffect::Hold, mouse && !repeated);
+        return mouse;
+    };
+    Show(model.PicProgram);
+    EXPECT_TRUE(takes());
+    EXPECT_TRUE(takes(true)) << "by the mouse";
+    for (Button* button : {&model.Command1, &model.cmdExit}) {
+        button->Enabled = false;
+        EXPECT_FALSE(takes() && button == &model.Command1);
+        button->Enabled = true;
+    }
+    drawing.now += PressGuard::kPause - std::chrono::milliseconds(1);
+    EXPECT_FALSE(takes());
+    drawing.follower.CloseAsked();
+    EXPECT_EQ(requests, 0);
+    drawing.now += std::chrono::milliseconds(1);
+    EXPECT_TRUE(takes());
+    drawing.follower.CloseAsked();
+    EXPECT_EQ(requests, 1);
+}
+
+TEST_F(FollowerTest, WhatHangsTogetherFollowsTogether) {
+    drawing.asked.clear();
+    model.Window.Height = 5460;
+    EXPECT_EQ(std::exchange(drawing.asked, ""),
+              "ISPMain.Height = 5460\nStatusBar1.Top = 7980\nStatusBar2.Top = 8235\n");
+    Show(model.PicProgram);
+    model.cmdExit.Enabled = false;
+    drawing.asked.clear();
+    model.ProgressBar1.Visible = false;
+    EXPECT_EQ(std::exchange(drawing.asked, ""),
+              "ProgressBar1.Visible = False\nrefit Label10\nrefit lblPrgm\n");
+    model.cmdExit.Enabled = true;
+    EXPECT_EQ(drawing.asked, "cmdExit.Enabled = True\ncall\n");
+}
+
+TEST_F(FollowerTest, NewsBelongsToTheButtonWithTheFocus) {
+    using Named = PlainDrawing::Named;
+    Show(model.PicSetup);
+    drawing.follower.Speak();
+    drawing.asked.clear();
+    model.lblResults.Caption = "Query to Port 1";
+    model.lblResults.Caption = "Query to Port 2";
+    EXPECT_EQ(drawing.asked,
+              "lblResults.Caption = \"Query to Port 1\"\nspeak soon\n"
+              "lblResults.Caption = \"Query to Port 2\"\n");
+    drawing.asked.clear();
+    drawing.follower.Speak();
+    EXPECT_EQ(std::exchange(drawing.asked, ""), Focused() + " says: Query to Port 2\n");
+    EXPECT_EQ(drawing.description, Named(Focused(), "Query to Port 2"));
+    drawing.Focus(&model.cmdExit);
+    EXPECT_EQ(drawing.description, Named("cmdExit", "Query to Port 2"));
+    EXPECT_EQ(drawing.asked, "");
+    model.Window.Visible = false;
+    model.Window.Visible = true;
+    model.lblResults.Caption = "Port Not Active";
+    model.Window.Visible = false;
+    drawing.asked.clear();
+    drawing.follower.Speak();
+    EXPECT_EQ(drawing.asked, "") << "nobody sees it";
+}
+
+}  // namespace
+}  // namespace keplin::test
