@@ -83,7 +83,7 @@ std::string LineOf(const Control& control) {
 
 TEST(Design, EveryControlIsAsDesigned) {
     const ISPMain window;
-    std::string lines;
+    std::string lines = LineOf(window);
     for (const Control* control : window.Controls())
         lines += LineOf(*control);
     EXPECT_EQ(lines, Data("design.txt"));

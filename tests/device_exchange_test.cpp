@@ -73,6 +73,15 @@ TEST_F(DeviceExchangeTest, SilenceEndsTheExchangeAfterThirtySecondsFromTheLastBy
     EXPECT_LT(desktop.Now() - second, 60s);
 }
 
+TEST_F(DeviceExchangeTest, AYieldThatTheTechnicianHoldsUpIsNoSilence) {
+    bool held = false;
+    desktop.OnYield = [&] {
+        if (!std::exchange(held, true)) time.Now += 40s;
+    };
+    port.ExpectDiscardStep().Expect("WriteText :00").Expect("ReadByte", -1).ExpectReads(":00.\n");
+    EXPECT_TRUE(controller.SendDataLine(":00"));
+}
+
 TEST_F(DeviceExchangeTest, BabbleAndALostLineEndTheExchangeUnlessTheReplyIsComplete) {
     int reads = 0;
     desktop.OnYield = [&] { port.Expect("ReadByte", 'x'), ++reads; };

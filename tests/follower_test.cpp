@@ -15,7 +15,7 @@ class FollowerTest : public testing::Test {
             hidden->Visible = false;
         ShowPage(model.PicGettingStarted);
         drawing.follower.Start();
-        model.Window.Visible = true;
+        model.Visible = true;
         LetButtonsBePressed();
     }
 
@@ -96,7 +96,7 @@ TEST_F(FollowerTest, WhileAPressIsAtWorkALostFocusPressesNothing) {
 TEST_F(FollowerTest, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
     const Follower& follower = drawing.follower;
     int requests = 0;
-    model.Window.OnCloseRequest = [&] { ++requests; };
+    model.OnCloseRequest = [&] { ++requests; };
     const auto takes = [&](bool repeated = false) {
         const KeyEffect enter = follower.KeyDown(model.Command1, PressKey::Enter, repeated);
         const KeyEffect space = follower.KeyDown(model.Command1, PressKey::Space, repeated);
@@ -125,7 +125,7 @@ TEST_F(FollowerTest, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
 
 TEST_F(FollowerTest, WhatHangsTogetherFollowsTogether) {
     drawing.asked.clear();
-    model.Window.Height = 5460;
+    model.Height = 5460;
     EXPECT_EQ(std::exchange(drawing.asked, ""),
               "ISPMain.Height = 5460\nStatusBar1.Top = 7980\nStatusBar2.Top = 8235\n");
     Show(model.PicProgram);
@@ -155,10 +155,10 @@ TEST_F(FollowerTest, NewsBelongsToTheButtonWithTheFocus) {
     drawing.Focus(&model.cmdExit);
     EXPECT_EQ(drawing.description, Named("cmdExit", "Query to Port 2"));
     EXPECT_EQ(drawing.asked, "");
-    model.Window.Visible = false;
-    model.Window.Visible = true;
+    model.Visible = false;
+    model.Visible = true;
     model.lblResults.Caption = "Port Not Active";
-    model.Window.Visible = false;
+    model.Visible = false;
     drawing.asked.clear();
     drawing.follower.Speak();
     EXPECT_EQ(drawing.asked, "") << "nobody sees it";

@@ -73,12 +73,12 @@ TEST(TextFit, ALabelWritesSmallerAsLongAsItMust) {
 TEST(Scale, ShowsAllOfTheWindowOnASmallScreen) {
     const ISPMain window;
     const auto fitting = [&](double desktop, PixelSize screen) {
-        return FittingDotsPerInch(desktop, screen, window.Window);
+        return FittingDotsPerInch(desktop, screen, window);
     };
     EXPECT_EQ(fitting(144, {1920, 1080}), 144);
     EXPECT_EQ(fitting(96, {0, 0}), 96);
     const Scale low(fitting(144, {800, 2000}));
-    EXPECT_EQ(low.Pixels(window.Window.Width), 796);
+    EXPECT_EQ(low.Pixels(window.Width), 796);
     const Scale flat(fitting(144, {2000, 480}));
     EXPECT_EQ(flat.Pixels(kShownHeight - 315), 440);
     EXPECT_EQ(Centred({622, 364}, {100, 20, 1920, 1061}), (PixelRect{749, 369, 622, 364}));
@@ -86,10 +86,10 @@ TEST(Scale, ShowsAllOfTheWindowOnASmallScreen) {
 
 TEST(StatusPanels, ShareTheirBarAndShortenALongPath) {
     ISPMain window;
-    window.Window.Height = kShownHeight;
+    window.Height = kShownHeight;
     const Scale scale(96);
     const StatusBar& bar = window.StatusBar1;
-    const PixelRect place = scale.PlaceAtBottom(bar, window.Window);
+    const PixelRect place = scale.PlaceAtBottom(bar, window);
     EXPECT_EQ(place, (PixelRect{0, 309, 622, 17}));
     const TextWidth five = [](const std::string& text) { return 5 * int(text.size()); };
     const auto views = [&] {
@@ -157,7 +157,7 @@ TEST(AccessibleText, EveryControlThatIsSeenHasAName) {
             dynamic_cast<const Frame*>(control) || dynamic_cast<const Button*>(control) ||
             dynamic_cast<const Picture*>(control);
         EXPECT_EQ(!AccessibleTextOf(*control).name.empty(),
-                  seen || control == &window.ProgressBar1 || control == &window.Window)
+                  seen || control == &window.ProgressBar1 || control == &window)
             << control->Name;
     }
     EXPECT_EQ(AccessibleTextOf(window.lblResults).name, "Result of the port test");

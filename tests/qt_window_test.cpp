@@ -48,7 +48,7 @@ TEST_F(QtWindow, FollowsTheModel) {
     EXPECT_FALSE(Find(model.PicSetup)->isVisible());
     Show(model.PicSetup);
     EXPECT_TRUE(Find(model.cmdPortTest)->isVisible());
-    model.Window.WindowState = Form::State::Minimised;
+    model.WindowState = Form::State::Minimised;
     EXPECT_TRUE(window.isMinimized());
 }
 
@@ -94,7 +94,7 @@ TEST_F(QtWindow, TheFocusGoesFromButtonToButton) {
 
 TEST_F(QtWindow, AskedToCloseItAsksTheModel) {
     int requests = 0;
-    model.Window.OnCloseRequest = [&] { ++requests; };
+    model.OnCloseRequest = [&] { ++requests; };
     EXPECT_FALSE(window.close());
     QEvent logout(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &logout);
@@ -144,7 +144,7 @@ TEST_F(QtWindow, PanelsShareTheirBarAndShortenALongPath) {
 TEST_F(QtWindow, AScreenReaderIsToldOfEveryControl) {
     for (const Control* control : model.Controls()) {
         const std::string name = AccessibleTextOf(*control).name;
-        if (name.empty() || control == &model.Window) continue;
+        if (name.empty() || control == &model) continue;
         EXPECT_EQ(Read(*control), name) << control->Name;
     }
     model.ProgressBar1.Value = 33;

@@ -8,22 +8,18 @@ Follower::Follower(ISPMain& model, Drawing& drawing, PressGuard::Clock clock)
     : model_(model),
       drawing_(drawing),
       focus_(model.Controls(), drawing),
-      guard_(model.Window, std::move(clock)),
+      guard_(model, std::move(clock)),
       speaker_(model, drawing) {
     for (const Button* button : focus_.TabOrder())
         guard_.Add(*button);
 }
 
-Follower::~Follower() {
-    model_.Observe(nullptr);
-}
-
 void Follower::Start() {
     for (const Aspect aspect : {Aspect::Caption, Aspect::Height})
-        Apply(model_.Window, aspect);
+        Apply(model_, aspect);
     focus_.AfterChange();
     guard_.AfterChange();
-    model_.Observe(this);
+    observation_.emplace(model_, *this);
 }
 
 void Follower::Changed(const Control& control, Aspect aspect) {
@@ -40,7 +36,7 @@ void Follower::Changed(const Control& control, Aspect aspect) {
 
 void Follower::Apply(const Control& control, Aspect aspect) {
     drawing_.Apply(control, aspect);
-    if (&control == &model_.Window) {
+    if (&control == &model_) {
         if (aspect == Aspect::Height) ApplyHeight();
     } else if (aspect == Aspect::Visible) {
         RefitBeside(control);
@@ -71,7 +67,7 @@ KeyEffect Follower::KeyDown(const Button& button, PressKey key, bool repeated) c
 // Close. A desktop that logs out asks the same way; it is not held up, and ends the program by
 // itself where the model does not.
 void Follower::CloseAsked() {
-    if (guard_.Takes(model_.cmdExit)) model_.Window.RequestClose();
+    if (guard_.Takes(model_.cmdExit)) model_.RequestClose();
 }
 
 }  // namespace keplin

@@ -28,10 +28,6 @@ class Follower : public Observer {
     // The model and the drawing must outlive it. `clock` tells since when a button can be pressed.
     Follower(ISPMain& model, Drawing& drawing,
              PressGuard::Clock clock = std::chrono::steady_clock::now);
-    // Follows the model no more.
-    ~Follower() override;
-    Follower(const Follower&) = delete;
-    Follower& operator=(const Follower&) = delete;
 
     [[nodiscard]] const std::vector<const Button*>& TabOrder() const { return focus_.TabOrder(); }
 
@@ -73,6 +69,7 @@ class Follower : public Observer {
     FocusKeeper focus_;
     PressGuard guard_;
     Speaker speaker_;
+    std::optional<Observation> observation_;  // from Start on
 };
 
 }  // namespace keplin

@@ -11,7 +11,7 @@ class Speaker {
   public:
     // Both must outlive it.
     Speaker(const ISPMain& model, Drawing& drawing)
-        : window_(model.Window), drawing_(drawing), texts_(model) {}
+        : window_(model), drawing_(drawing), texts_(model) {}
 
     // The drawing has followed a change of the model. It is announced at the next round of events,
     // together with what else changes until then.

@@ -199,7 +199,7 @@ class RandomTechnician {
         const bool leaving = choice == 0 || choice == buttons.size();
         if (leaving && !rig_.desktop.Awake && !OneIn(20)) return;  // most stay to the end
         if (choice == buttons.size()) {
-            window.Window.RequestClose();
+            window.RequestClose();
         } else {
             buttons[choice]->Press();
         }

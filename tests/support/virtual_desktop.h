@@ -9,6 +9,7 @@
 #include <string>
 
 #include "platform/desktop.h"
+#include "platform/path.h"
 #include "tests/support/trace.h"
 #include "tests/support/virtual_time.h"
 #include "ui/isp_main.h"
@@ -53,7 +54,7 @@ class VirtualDesktop : public Desktop {
 
     std::uint64_t FileLength(const std::string& path) override {
         if (FactsFail) throw std::runtime_error("no facts");
-        return std::filesystem::file_size(path);
+        return std::filesystem::file_size(ToPath(path));
     }
 
     std::string FileDateTime(const std::string&) override { return "11/22/26 9:41 PM"; }

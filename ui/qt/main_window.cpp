@@ -29,7 +29,7 @@ Scale ScaleOf(const QWidget& window, const Form& form) {
 
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     : QWidget(nullptr, kFrame),
-      form_(model.Window),
+      form_(model),
       look_{
           form_, ScaleOf(*this, form_), {}, TextFit(model.Controls(), look_.scale, look_.measure)},
       follower_(model, *this, std::move(clock)) {

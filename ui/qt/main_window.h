@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <unordered_map>
 
 #include "ui/follower.h"
@@ -15,9 +16,6 @@ class MainWindow : public QWidget, public Drawing {
     // visible. The model must outlive it. Needs a QApplication. `clock` tells since when a button
     // can be pressed.
     explicit MainWindow(ISPMain& model, PressGuard::Clock clock = std::chrono::steady_clock::now);
-
-    // What follows the model, for whoever has to come before it.
-    [[nodiscard]] Observer& ModelObserver() { return follower_; }
 
     void Apply(const Control& control, Aspect aspect) override;
     void Refit(const Label& label) override;
@@ -41,6 +39,7 @@ class MainWindow : public QWidget, public Drawing {
     const Look look_;
     Follower follower_;
     std::unordered_map<const Control*, Drawn*> drawn_;
+    std::optional<Observation> following_;
 };
 
 }  // namespace keplin::qt
