@@ -38,16 +38,26 @@ int BesideText(int bevel) {
     return 2 * (kMargin + bevel);
 }
 
+// Panels sized by their text take what they need; the others share the rest equally, but none falls
+// below its minimum, and the last ones run over the bar's end when the minimums are wider than it.
 std::vector<float> Widths(const StatusBar& bar, int barWidth, const Scale& scale, int bevel,
                           const TextWidth& width) {
-    std::vector<float> minimums;
-    std::vector<float> texts;
-    for (std::size_t i = 1; i <= bar.PanelCount(); ++i) {
-        const Panel& panel = bar.Panels(i);
-        minimums.push_back(static_cast<float>(scale.Pixels(panel.MinimumWidth)));
-        texts.push_back(static_cast<float>(width(panel.Text) + BesideText(bevel) + kGap));
+    std::vector<float> widths(bar.PanelCount());
+    auto left = static_cast<float>(barWidth);
+    float sharing = 0;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        const Panel& panel = bar.Panels(i + 1);
+        const int text = width(panel.Text) + BesideText(bevel) + kGap;
+        const bool shares = panel.Sizing == PanelSizing::Share;
+        const int least = scale.Pixels(panel.MinimumWidth);
+        widths[i] = static_cast<float>(shares ? least : std::max(least, text));
+        (shares ? sharing : left) += shares ? 1 : -widths[i];
     }
-    return PanelWidths(bar, static_cast<float>(barWidth), minimums, texts);
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        if (bar.Panels(i + 1).Sizing == PanelSizing::Share)
+            widths[i] = std::max(widths[i], left / sharing);
+    }
+    return widths;
 }
 
 PanelView ViewOf(const Panel& panel, const PixelRect& place, int bevel, const TextWidth& width) {
@@ -58,27 +68,6 @@ PanelView ViewOf(const Panel& panel, const PixelRect& place, int bevel, const Te
 }
 
 }  // namespace
-
-std::vector<float> PanelWidths(const StatusBar& bar, float barWidth,
-                               std::span<const float> minimums, std::span<const float> texts) {
-    std::vector<float> widths(bar.PanelCount());
-    float left = barWidth;
-    float sharing = 0;
-    for (std::size_t i = 0; i < widths.size(); ++i) {
-        if (bar.Panels(i + 1).Sizing == PanelSizing::Share) {
-            ++sharing;
-        } else {
-            widths[i] = std::max(minimums[i], texts[i]);
-            left -= widths[i];
-        }
-    }
-    for (std::size_t i = 0; i < widths.size(); ++i) {
-        if (bar.Panels(i + 1).Sizing == PanelSizing::Share) {
-            widths[i] = std::max(minimums[i], left / sharing);
-        }
-    }
-    return widths;
-}
 
 // Letter by letter on the side that shows less.
 std::string ShortenedInMiddle(const std::string& text, int room, const TextWidth& width) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -12,13 +11,6 @@ namespace keplin {
 
 // How wide a text is on one line, in pixels, in the font of the panels.
 using TextWidth = std::function<int(const std::string&)>;
-
-// The width of each panel, in the unit of the arguments. `minimums` and `texts` hold for each panel
-// its minimum and the width that its text needs, margins included. Panels sized by their text take
-// what they need; the others share the rest equally, but none falls below its minimum, and the last
-// ones run over the bar's end when the minimums are wider than the bar.
-std::vector<float> PanelWidths(const StatusBar& bar, float barWidth,
-                               std::span<const float> minimums, std::span<const float> texts);
 
 // The text, or as much of its beginning and its end as the room has place for, as wide as each
 // other, with an ellipsis between them. No character is cut in two. "" where there is no room for
