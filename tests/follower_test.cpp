@@ -191,11 +191,15 @@ TEST_F(FollowerTest, NewsBelongsToTheButtonWithTheFocus) {
     drawing.Focus(&model.cmdExit);
     EXPECT_EQ(drawing.description, "cmdExit: Query to Port 2");
     EXPECT_EQ(drawing.asked, "");
-    model.lblResults.Caption = "Port Not Active";
-    model.Visible = false;
-    drawing.asked.clear();
-    drawing.follower.Speak();
-    EXPECT_EQ(drawing.asked, "") << "nobody sees it";
+    drawing.Focus(&model.cmdPortTest);
+    model.cmdPortTest.OnClick = [&] {
+        Show(model.PicProgram);
+        drawing.asked.clear();
+        drawing.follower.Speak();
+        EXPECT_EQ(drawing.asked, "") << "the button with the focus is out of sight";
+    };
+    Enter();
+    EXPECT_TRUE(drawing.description.starts_with("Command1: Note:")) << drawing.description;
 }
 
 }  // namespace

@@ -11,7 +11,7 @@ void Speaker::Changed(const Control& control, Aspect aspect) {
 // What comes while the focused button is out of sight waits for the focus.
 void Speaker::Speak() {
     due_ = false;
-    if (focused_ == nullptr || !focused_->Shown() || !window_.Visible) return;
+    if (focused_ == nullptr || !focused_->Shown()) return;
     const std::string news = texts_.Take();
     if (news.empty()) return;
     drawing_.Describe(*focused_, news);

@@ -10,8 +10,7 @@ namespace keplin {
 class Speaker {
   public:
     // Both must outlive it.
-    Speaker(const ISPMain& model, Drawing& drawing)
-        : window_(model), drawing_(drawing), texts_(model) {}
+    Speaker(const ISPMain& model, Drawing& drawing) : drawing_(drawing), texts_(model) {}
 
     // The drawing has followed a change of the model. It is announced at the next round of events,
     // together with what else changes until then.
@@ -24,7 +23,6 @@ class Speaker {
     void FocusCame(const Button& button);
 
   private:
-    const Form& window_;
     Drawing& drawing_;
     SpokenTexts texts_;
     // Where a screen reader has the focus: it stays there while the window itself has it.
