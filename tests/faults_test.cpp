@@ -129,6 +129,26 @@ TEST(Faults, ALostLineEndsTheExchangeAtOnceAndIsFoundAgainByTheNextRun) {
     EXPECT_TRUE(faulty.rig.Completed());
 }
 
+// The adapter comes loose in the pause behind the erase, and another controller hangs on it when it
+// is back: that one has not been erased.
+TEST(Faults, AControllerThatComesIntoTheMidstOfAnUpdateIsNotProgrammed) {
+    const TemporaryFile file(kSmallFile);
+    FaultyRig faulty;
+    faulty.rig.ReachProgramPage(file.Path());
+    bool swapped = false;
+    faulty.rig.desktop.OnYield = [&] {
+        const std::string& stage = faulty.rig.window.lblPrgm.Caption;
+        if (stage != "All Blocks Erased" || std::exchange(swapped, true)) return;
+        faulty.device.HangUp();
+        faulty.loader = Loader();
+    };
+    faulty.Update();
+    EXPECT_EQ(PageOf(faulty.rig.window), ExpectedStop(8));
+    EXPECT_TRUE(faulty.loader.ObeyedRecords().empty());
+    faulty.Update();
+    EXPECT_TRUE(faulty.rig.Completed());
+}
+
 // What a stuck adapter kept of a record leaves when it takes bytes again: ahead of the next ping.
 TEST(Faults, WhatAnAdapterKeptOfOneExchangeSpoilsTheNextAndNeverPassesForIt) {
     const TemporaryFile file(kSmallFile);
