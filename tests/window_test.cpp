@@ -2,7 +2,6 @@
 
 #include "tests/support/rig.h"
 #include "ui/activity.h"
-#include "ui/panel_widths.h"
 
 namespace keplin::test {
 namespace {
@@ -103,19 +102,6 @@ TEST(Activity, KeepsPlaceAndDirectionThroughAStopAndNestedTicksDoNotRun) {
     rig.window.Timer1.Tick();
     EXPECT_EQ(depth, 2);
     EXPECT_EQ(rig.window.Shape2.Left, 5130);
-}
-
-TEST(StatusBars, ShareTheirWidthByTheRulesOfTheirPanels) {
-    const ISPMain window;
-    const auto widths = [&](const StatusBar& bar, std::vector<float> minimums,
-                            std::vector<float> texts) {
-        return PanelWidths(bar, 9330, minimums, texts);
-    };
-    using W = std::vector<float>;
-    EXPECT_EQ(widths(window.StatusBar1, {1840, 2000}, {9000, 100}), (W{7330, 2000}));
-    EXPECT_EQ(widths(window.StatusBar1, {1840, 2000}, {0, 2330}), (W{7000, 2330}));
-    EXPECT_EQ(widths(window.StatusBar1, {1840, 2000}, {0, 9000}), (W{1840, 9000}));
-    EXPECT_EQ(widths(window.StatusBar2, {1440, 1440, 1440}, {0, 9000, 0}), (W{3110, 3110, 3110}));
 }
 
 }  // namespace

@@ -6,9 +6,6 @@
 #include "ui/control.h"
 
 namespace keplin {
-namespace {
-
-// As the design knows them.
 const char* NameOf(Aspect aspect) {
     switch (aspect) {
         case Aspect::Visible:
@@ -38,8 +35,6 @@ const char* NameOf(Aspect aspect) {
     }
     return "";
 }
-
-}  // namespace
 
 std::string Written(const std::string& text) {
     return '"' + text + '"';

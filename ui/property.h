@@ -25,6 +25,9 @@ enum class Aspect {
     WindowState,
 };
 
+// Its name, "Caption".
+const char* NameOf(Aspect aspect);
+
 // Told once for each change, after it happened. Must not set properties itself.
 class Observer {
   public:

@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 #include <QElapsedTimer>
 
+#include "ui/accessible_text.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/progress_bar_widget.h"
 #include "ui/qt/status_bar_widget.h"
@@ -44,9 +45,6 @@ QAccessibleInterface* Create(const QString&, QObject* object) {
     return nullptr;
 }
 
-// A step of the bar that comes sooner after another one than this is not worth a word.
-constexpr int kBetweenStepsMs = 1000;
-
 bool IsWorthTelling(const QAccessibleEvent& event) {
     static QElapsedTimer sinceStep;
     const auto* window = dynamic_cast<MainWindow*>(event.object());
@@ -58,7 +56,8 @@ bool IsWorthTelling(const QAccessibleEvent& event) {
         case QAccessible::DescriptionChanged:
             return false;  // announced with its text
         case QAccessible::ValueChanged:
-            if (sinceStep.isValid() && sinceStep.elapsed() < kBetweenStepsMs) return false;
+            if (sinceStep.isValid() && sinceStep.elapsed() < kBetweenSpokenSteps.count())
+                return false;
             sinceStep.start();
             return true;
         default:

@@ -5,15 +5,30 @@
 
 namespace keplin::qt {
 
-ButtonWidget::ButtonWidget(const Button& button, const Look& look, FocusKeeper& focus,
-                           PressGuard& guard, QWidget* parent)
-    : QPushButton(parent), button_(button), look_(look), guard_(guard) {
+namespace {
+
+std::optional<PressKey> PressKeyOf(int key) {
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return PressKey::Enter;
+        case Qt::Key_Space:
+        case Qt::Key_Select:
+            return PressKey::Space;
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
+
+ButtonWidget::ButtonWidget(const Button& button, const Look& look, Follower& follower,
+                           QWidget* parent)
+    : QPushButton(parent), button_(button), look_(look), follower_(follower) {
     setFocusPolicy(Qt::StrongFocus);
     ApplyCommon(*this, button, look.scale);
     ApplyCaption();
-    focus.Add(button, *this);
-    guard.Add(button);
-    connect(this, &QPushButton::clicked, this, [this, &focus] { focus.Press(button_); });
+    connect(this, &QPushButton::clicked, this, [this] { follower_.Press(button_); });
 }
 
 void ButtonWidget::Apply(Aspect aspect) {
@@ -23,25 +38,25 @@ void ButtonWidget::Apply(Aspect aspect) {
 
 // To Qt a single ampersand would be the mark of a shortcut.
 void ButtonWidget::ApplyCaption() {
-    setAccessibleName(ToQt(button_.Caption));
     setText(ToQt(button_.Caption).replace('&', "&&"));
 }
 
-// A key that is held down presses once.
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
-    const int key = event->key();
-    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    const bool meant = !event->isAutoRepeat() && guard_.Takes(button_);
-    if (!meant && (enter || key == Qt::Key_Space || key == Qt::Key_Select)) return;
-    if (enter) {
-        click();
-    } else {
-        QPushButton::keyPressEvent(event);
-    }
+    const auto key = PressKeyOf(event->key());
+    const KeyEffect effect =
+        key ? follower_.KeyDown(button_, *key, event->isAutoRepeat()) : KeyEffect::Hold;
+    if (effect == KeyEffect::Hold) QPushButton::keyPressEvent(event);
+    if (effect == KeyEffect::Press) click();
+}
+
+// Comes before a screen reader is told.
+void ButtonWidget::focusInEvent(QFocusEvent* event) {
+    follower_.FocusCame(button_);
+    QPushButton::focusInEvent(event);
 }
 
 void ButtonWidget::mousePressEvent(QMouseEvent* event) {
-    if (guard_.Takes(button_)) QPushButton::mousePressEvent(event);
+    if (follower_.MouseDown(button_)) QPushButton::mousePressEvent(event);
 }
 
 // The focus shows from the start, not only after the first use of the keyboard.

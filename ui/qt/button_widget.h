@@ -3,20 +3,21 @@
 
 #include <QPushButton>
 
-#include "ui/press_guard.h"
+#include "ui/follower.h"
 #include "ui/qt/drawn.h"
-#include "ui/qt/focus_keeper.h"
 
 namespace keplin::qt {
 
 class ButtonWidget final : public QPushButton, public Drawn {
   public:
-    ButtonWidget(const Button& button, const Look& look, FocusKeeper& focus, PressGuard& guard,
-                 QWidget* parent);
+    ButtonWidget(const Button& button, const Look& look, Follower& follower, QWidget* parent);
     void Apply(Aspect aspect) override;
+
+    [[nodiscard]] const Button& Model() const { return button_; }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void initStyleOption(QStyleOptionButton* option) const override;
 
@@ -25,7 +26,7 @@ class ButtonWidget final : public QPushButton, public Drawn {
 
     const Button& button_;
     const Look& look_;
-    const PressGuard& guard_;
+    Follower& follower_;
 };
 
 }  // namespace keplin::qt

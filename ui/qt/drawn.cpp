@@ -1,5 +1,7 @@
 #include "ui/qt/drawn.h"
 
+#include "ui/accessible_text.h"
+
 namespace keplin::qt {
 
 void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale, Aspect aspect) {
@@ -13,7 +15,10 @@ void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale, As
         case Aspect::Left:
         case Aspect::Top:
         case Aspect::Height:
-            widget.setGeometry(scale.PlaceOf(control));
+            widget.setGeometry(ToQt(scale.PlaceOf(control)));
+            break;
+        case Aspect::Caption:
+            ApplyAccessible(widget, control);
             break;
         default:
             break;
@@ -22,9 +27,18 @@ void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale, As
 
 void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale) {
     widget.setObjectName(ToQt(control.Name));
-    for (const Aspect aspect : {Aspect::Left, Aspect::Enabled, Aspect::Visible}) {
+    for (const Aspect aspect : {Aspect::Left, Aspect::Enabled, Aspect::Visible, Aspect::Caption}) {
         ApplyCommon(widget, control, scale, aspect);
     }
+}
+
+// A description that is not the control's own stays.
+void ApplyAccessible(QWidget& widget, const Control& control) {
+    const AccessibleText text = AccessibleTextOf(control);
+    const QString name = ToQt(text.name);
+    const QString description = ToQt(text.description);
+    if (widget.accessibleName() != name) widget.setAccessibleName(name);
+    if (!description.isEmpty()) widget.setAccessibleDescription(description);
 }
 
 // Filled, not drawn with a pen: where the desktop magnifies by one and a half, a pen's line may

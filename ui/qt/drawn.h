@@ -20,11 +20,15 @@ class Drawn {
     virtual void Refit() {}
 };
 
-// Takes over what every control has: visible, enabled, place. Other aspects are passed over.
+// Takes over what every control has: visible, enabled, place, and with its caption what a screen
+// reader is told of it. Other aspects are passed over.
 void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale, Aspect aspect);
 
 // Gives a new widget all that every control has.
 void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale);
+
+// Tells a screen reader what the control is now.
+void ApplyAccessible(QWidget& widget, const Control& control);
 
 // Draws the rectangle's outline along its inside, one pixel of the screen wide.
 void DrawOutline(QPainter& painter, const QRectF& rectangle, const QColor& colour);

@@ -1,7 +1,6 @@
 #include "ui/qt/label_widget.h"
 
-#include "ui/qt/font_choice.h"
-#include "ui/qt/text_room.h"
+#include "ui/page_look.h"
 
 namespace keplin::qt {
 
@@ -11,39 +10,31 @@ LabelWidget::LabelWidget(const Label& label, const Look& look, QWidget* parent)
     setWordWrap(true);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     ApplyCommon(*this, label, look.scale);
-    setAccessibleDescription(label.Style.description);
-    ApplyCaption();
+    setText(ToQt(label.Caption));
     Refit();
 }
 
 void LabelWidget::Apply(Aspect aspect) {
     ApplyCommon(*this, label_, look_.scale, aspect);
-    if (aspect == Aspect::Caption) ApplyCaption();
+    if (aspect == Aspect::Caption) setText(ToQt(label_.Caption));
     Refit();
 }
 
 void LabelWidget::Refit() {
-    setFont(FontOf(label_, look_));
+    setFont(ToQt(look_.fit.FontOf(label_)));
 }
 
-// A text that comes and goes has a name also while it is empty.
-void LabelWidget::ApplyCaption() {
-    setText(ToQt(label_.Caption));
-    setAccessibleName(text().isEmpty() ? accessibleDescription() : text());
-}
-
-// A page keeps its colour in a dark theme, so the texts on it keep theirs.
 QColor LabelWidget::TextColour() const {
-    if (label_.Style.colour) return ToQt(*label_.Style.colour);
-    return label_.Container != nullptr ? Qt::black : palette().color(QPalette::WindowText);
+    const auto colour = TextColourOf(label_);
+    return colour ? ToQt(*colour) : palette().color(QPalette::WindowText);
 }
 
 // Painted from the layout that the font was chosen by, not from the style's.
 void LabelWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QRectF area = RoomOf(label_, look_).area;
+    const QRectF area = ToQt(look_.fit.AreaOf(label_));
     if (label_.Style.background) painter.fillRect(rect(), ToQt(*label_.Style.background));
-    if (label_.Style.border) DrawOutline(painter, rect(), Qt::black);
+    if (label_.Style.border) DrawOutline(painter, rect(), ToQt(kBlack));
     painter.setPen(TextColour());
     DrawWrapped(painter, text(), label_.Style.alignment, area);
 }

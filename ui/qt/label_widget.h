@@ -17,7 +17,6 @@ class LabelWidget final : public QLabel, public Drawn {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void ApplyCaption();
     [[nodiscard]] QColor TextColour() const;
 
     const Label& label_;

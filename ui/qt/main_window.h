@@ -5,38 +5,39 @@
 #include <optional>
 #include <unordered_map>
 
-#include "ui/isp_main.h"
-#include "ui/press_guard.h"
+#include "ui/follower.h"
 #include "ui/qt/drawn.h"
-#include "ui/qt/focus_keeper.h"
-#include "ui/qt/speaker.h"
 
 namespace keplin::qt {
 
-class MainWindow : public QWidget, public Observer {
+class MainWindow : public QWidget, public Drawing {
   public:
     // Draws the model as it stands and follows it from here on; hidden until the model's window is
     // visible. The model must outlive it. Needs a QApplication. `clock` tells since when a button
     // can be pressed.
     explicit MainWindow(ISPMain& model, PressGuard::Clock clock = std::chrono::steady_clock::now);
 
-    void Changed(const Control& control, const PropertyBase& property) override;
+    void Apply(const Control& control, Aspect aspect) override;
+    void Refit(const Label& label) override;
+    [[nodiscard]] const Button* Focused() const override;
+    void Focus(const Button* button) override;
+    void CallForAttention() override;
+    [[nodiscard]] bool IsHeard() const override;
+    void SpeakSoon() override;
+    void Describe(const Button& button, const std::string& news) override;
+    void Announce(const Button& button, const std::string& news) override;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    void Apply(const Control& control, Aspect aspect);
     void ApplyToWindow(Aspect aspect);
-    void ApplySize();
     void ShowCentred();
-    void CallForAttention();
+    [[nodiscard]] QWidget& WidgetOf(const Button& button) const;
 
-    ISPMain& model_;
-    Look look_;
-    FocusKeeper focus_;
-    PressGuard guard_;
-    Speaker speaker_;
+    const Form& form_;
+    const Look look_;
+    Follower follower_;
     std::unordered_map<const Control*, Drawn*> drawn_;
     std::optional<Observation> following_;
 };

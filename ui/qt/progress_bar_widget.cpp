@@ -2,32 +2,25 @@
 
 #include <QHelpEvent>
 #include <QToolTip>
-#include <cmath>
-#include <cstdlib>
 
 namespace keplin::qt {
-namespace {
 
-constexpr int kSteps = 10000;            // finer than a pixel
-constexpr int kPauseMs = 1000 / 30 + 1;  // between two repaints
-
-}  // namespace
-
-// The range is never empty, which Qt would show as busy.
 ProgressBarWidget::ProgressBarWidget(const ProgressBar& bar, const Look& look, QWidget* parent)
-    : QProgressBar(parent), bar_(bar), look_(look), throttle_(kPauseMs, [this] { ShowDone(); }) {
+    : QProgressBar(parent),
+      bar_(bar),
+      look_(look),
+      showTimer_(Throttle::kBar, [this] { ShowDone(); }) {
     setTextVisible(false);
-    setRange(0, kSteps);
+    setRange(0, kBarSteps);
     ApplyCommon(*this, bar, look.scale);
-    setAccessibleName(ToQt(bar.Description));
-    throttle_.ShowNow();
+    showTimer_.ShowNow();
 }
 
 void ProgressBarWidget::Apply(Aspect aspect) {
     if (aspect == Aspect::Min || aspect == Aspect::Max || aspect == Aspect::Value) {
-        throttle_.ShowSoon();
+        showTimer_.ShowSoon();
     } else {
-        if (aspect == Aspect::Visible) throttle_.ShowNow();
+        if (aspect == Aspect::Visible) showTimer_.ShowNow();
         ApplyCommon(*this, bar_, look_.scale, aspect);
     }
 }
@@ -43,10 +36,9 @@ bool ProgressBarWidget::event(QEvent* event) {
 // painted before then would show a part of the new bar on the old one.
 void ProgressBarWidget::ShowDone() {
     if (underMouse() && QToolTip::isVisible()) QToolTip::showText(tipPlace_, DoneText(), this);
-    const int done = static_cast<int>(std::lround(bar_.Done() * static_cast<float>(kSteps)));
-    const bool isEnd = done == 0 || done == kSteps;
-    if (!isEnd && std::abs(done - value()) * width() < kSteps) return;  // less than a pixel
-    setValue(done);
+    const int steps = StepsDone(bar_);
+    if (!CanBeSeen(steps, value(), width())) return;
+    setValue(steps);
     update();
 }
 

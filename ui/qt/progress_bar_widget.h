@@ -4,7 +4,7 @@
 #include <QProgressBar>
 
 #include "ui/qt/drawn.h"
-#include "ui/qt/throttle.h"
+#include "ui/qt/show_timer.h"
 
 namespace keplin::qt {
 
@@ -24,7 +24,7 @@ class ProgressBarWidget final : public QProgressBar, public Drawn {
 
     const ProgressBar& bar_;
     const Look& look_;
-    Throttle throttle_;
+    ShowTimer showTimer_;
     QPoint tipPlace_;
 };
 

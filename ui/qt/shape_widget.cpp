@@ -1,14 +1,12 @@
 #include "ui/qt/shape_widget.h"
 
 namespace keplin::qt {
-namespace {
-
-constexpr int kPauseMs = 1000 / 60 + 1;  // between two steps sideways
-
-}  // namespace
 
 ShapeWidget::ShapeWidget(const Shape& shape, const Look& look, QWidget* parent)
-    : QWidget(parent), shape_(shape), look_(look), throttle_(kPauseMs, [this] { MoveSideways(); }) {
+    : QWidget(parent),
+      shape_(shape),
+      look_(look),
+      showTimer_(Throttle::kShape, [this] { MoveSideways(); }) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent, shape.Fill.has_value());
     ApplyCommon(*this, shape, look.scale);
@@ -16,7 +14,7 @@ ShapeWidget::ShapeWidget(const Shape& shape, const Look& look, QWidget* parent)
 
 void ShapeWidget::Apply(Aspect aspect) {
     if (aspect == Aspect::Left) {
-        throttle_.ShowSoon();
+        showTimer_.ShowSoon();
     } else {
         ApplyCommon(*this, shape_, look_.scale, aspect);
     }

@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "ui/qt/drawn.h"
-#include "ui/qt/throttle.h"
+#include "ui/qt/show_timer.h"
 
 namespace keplin::qt {
 
@@ -22,7 +22,7 @@ class ShapeWidget final : public QWidget, public Drawn {
 
     const Shape& shape_;
     const Look& look_;
-    Throttle throttle_;
+    ShowTimer showTimer_;
 };
 
 }  // namespace keplin::qt

@@ -1,15 +1,10 @@
 #include "ui/qt/status_bar_widget.h"
 
 #include <QStyleOptionFrame>
-#include <cmath>
-
-#include "ui/panel_widths.h"
 
 namespace keplin::qt {
 namespace {
 
-constexpr int kMargin = 3;   // pixels between the bevel and the text
-constexpr int kGap = 2;      // pixels between two panels
 constexpr int kBevel = 160;  // percent of the window's own brightness
 
 // A tool tip that looks like markup would be taken for it.
@@ -24,10 +19,8 @@ PanelWidget::PanelWidget(const keplin::Panel& panel, StatusBarWidget& bar)
     setObjectName(ToQt(panel.Name));
     setTextFormat(Qt::PlainText);
     setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    setIndent(kMargin);
     setAlignment(Qt::AlignVCenter |
                  (panel.TextAlignment == Alignment::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
-    setAccessibleDescription(ToQt(panel.Description));
     setVisible(panel.Visible);
 }
 
@@ -36,22 +29,12 @@ void PanelWidget::Apply(Aspect aspect) {
     if (aspect == Aspect::Text) bar_.Arrange();
 }
 
-int PanelWidget::BesideText() const {
-    return 2 * (kMargin + frameWidth());
-}
-
-int PanelWidget::WidthOfText() const {
-    return fontMetrics().horizontalAdvance(ToQt(panel_.Text)) + BesideText();
-}
-
-void PanelWidget::ShowText() {
-    const QString whole = ToQt(panel_.Text);
-    const bool fits = WidthOfText() <= width();
-    const int room = width() - BesideText();
-    setText(fits ? whole : fontMetrics().elidedText(whole, Qt::ElideMiddle, room));
-    setToolTip(fits ? QString() : ToolTip(whole));
-    const QString name = whole.isEmpty() ? accessibleDescription() : whole;
-    if (accessibleName() != name) setAccessibleName(name);
+void PanelWidget::Show(const PanelView& view) {
+    setGeometry(ToQt(view.place));
+    setIndent(view.margin);
+    setText(ToQt(view.text));
+    setToolTip(ToolTip(ToQt(view.toolTip)));
+    ApplyAccessible(*this, panel_);
 }
 
 // The bevel's two sides differ from the window by the same little in a light and in a dark theme.
@@ -68,11 +51,9 @@ StatusBarWidget::StatusBarWidget(const StatusBar& bar, const Look& look, QWidget
     setVisible(bar.Visible);
 }
 
-// The bar follows the window's bottom edge.
 void StatusBarWidget::Apply(Aspect) {
-    const float top = look_.form.ClientHeight() - bar_.AboveBottom;
     setVisible(bar_.Visible);
-    setGeometry(look_.scale.Pixels(Place{0, top, look_.form.Width, bar_.Height}));
+    setGeometry(ToQt(look_.scale.PlaceAtBottom(bar_, look_.form)));
     Arrange();
 }
 
@@ -83,20 +64,13 @@ PanelWidget& StatusBarWidget::Add(const Panel& panel) {
 
 void StatusBarWidget::Arrange() {
     if (panels_.size() != bar_.PanelCount()) return;
-    std::vector<float> minimums;
-    std::vector<float> texts;
-    for (std::size_t i = 0; i < panels_.size(); ++i) {
-        minimums.push_back(static_cast<float>(look_.scale.Pixels(bar_.Panels(i + 1).MinimumWidth)));
-        texts.push_back(static_cast<float>(panels_[i]->WidthOfText() + kGap));
-    }
-    const auto widths = PanelWidths(bar_, static_cast<float>(width()), minimums, texts);
-    float left = 0;
-    for (std::size_t i = 0; i < panels_.size(); ++i) {
-        const int from = static_cast<int>(std::lround(left));
-        const int to = static_cast<int>(std::lround(left += widths[i]));
-        panels_[i]->setGeometry(from, 1, to - from - kGap, height() - 1);
-        panels_[i]->ShowText();
-    }
+    const auto width = [this](const std::string& text) {
+        return fontMetrics().horizontalAdvance(ToQt(text));
+    };
+    const auto views =
+        ArrangePanels(bar_, FromQt(size()), look_.scale, panels_.front()->frameWidth(), width);
+    for (std::size_t i = 0; i < panels_.size(); ++i)
+        panels_[i]->Show(views[i]);
 }
 
 }  // namespace keplin::qt

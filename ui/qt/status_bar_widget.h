@@ -6,29 +6,24 @@
 #include <vector>
 
 #include "ui/qt/drawn.h"
+#include "ui/status_panels.h"
 
 namespace keplin::qt {
 
 class StatusBarWidget;
 
-// Shows as much of its text as there is room for: the beginning and the end. The whole text is in
-// the tool tip then.
+// A text with an inset bevel around it.
 class PanelWidget final : public QLabel, public Drawn {
   public:
     PanelWidget(const keplin::Panel& panel, StatusBarWidget& bar);
     void Apply(Aspect aspect) override;
 
-    // The width in pixels that shows the text whole.
-    [[nodiscard]] int WidthOfText() const;
-    void ShowText();
+    void Show(const PanelView& view);
 
   protected:
     void initStyleOption(QStyleOptionFrame* option) const override;
 
   private:
-    // The pixels beside the text, left and right together.
-    [[nodiscard]] int BesideText() const;
-
     const keplin::Panel& panel_;
     StatusBarWidget& bar_;
 };

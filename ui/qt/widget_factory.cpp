@@ -36,7 +36,7 @@ void WidgetFactory::Visit(const Label& label) {
 }
 
 void WidgetFactory::Visit(const Button& button) {
-    Make<ButtonWidget>(button, button, look_, focus_, guard_);
+    Make<ButtonWidget>(button, button, look_, follower_);
 }
 
 void WidgetFactory::Visit(const Picture& picture) {

@@ -4,20 +4,18 @@
 #include <QWidget>
 #include <unordered_map>
 
-#include "ui/press_guard.h"
+#include "ui/follower.h"
 #include "ui/qt/drawn.h"
-#include "ui/qt/focus_keeper.h"
 
 namespace keplin::qt {
 
 class StatusBarWidget;
 
-// The widgets belong to the window; they hold on to the look, the focus keeper and
-// the press guard.
+// The widgets belong to the window; they hold on to the look and the follower.
 class WidgetFactory : public ControlVisitor {
   public:
-    WidgetFactory(QWidget& window, const Look& look, FocusKeeper& focus, PressGuard& guard)
-        : window_(window), look_(look), focus_(focus), guard_(guard) {}
+    WidgetFactory(QWidget& window, const Look& look, Follower& follower)
+        : window_(window), look_(look), follower_(follower) {}
 
     void Visit(const Form& form) override;
     void Visit(const Page& page) override;
@@ -41,8 +39,7 @@ class WidgetFactory : public ControlVisitor {
 
     QWidget& window_;
     const Look& look_;
-    FocusKeeper& focus_;
-    PressGuard& guard_;
+    Follower& follower_;
     std::unordered_map<const Control*, QWidget*> containers_;
     std::unordered_map<const Control*, StatusBarWidget*> bars_;
 };

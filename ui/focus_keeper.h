@@ -2,26 +2,26 @@
 // while a press is still at work.
 #pragma once
 
-#include <QWidget>
 #include <vector>
 
-#include "ui/controls.h"
+#include "ui/drawing.h"
 
-namespace keplin::qt {
+namespace keplin {
 
 class FocusKeeper {
   public:
-    explicit FocusKeeper(QWidget& window) : window_(window) {}
+    // The controls of one window, and its drawing, must outlive it.
+    FocusKeeper(const std::vector<Control*>& controls, Drawing& drawing);
 
-    // Takes a button into the tab order.
-    void Add(const Button& button, QWidget& widget);
+    // In the order in which the focus moves from one to the next.
+    [[nodiscard]] const std::vector<const Button*>& TabOrder() const { return buttons_; }
 
-    // The model has changed and its widget has not yet: takes the focus from a button that can no
-    // longer be pressed, before Qt passes it on by itself.
+    // The model has changed and the drawing has not yet: takes the focus from a button that can no
+    // longer be pressed, before the toolkit passes it on by itself.
     void BeforeChange();
 
-    // The widget has followed. Gives the focus to a button that can be pressed: the next one in tab
-    // order on the shown page, or else one beside the pages until the page has one again.
+    // The drawing has followed. Gives the focus to a button that can be pressed: the next one in
+    // tab order on the shown page, or else one beside the pages until the page has one again.
     void AfterChange();
 
     // Presses the button for the technician. Until all that the press does is done, a focus that
@@ -30,21 +30,15 @@ class FocusKeeper {
     void Press(const Button& button);
 
   private:
-    struct Entry {
-        const Button* button;
-        QWidget* widget;
-    };
-
-    [[nodiscard]] const Entry* Focused() const;
     [[nodiscard]] std::vector<const Button*> Pressable() const;
     // Which button the focus goes to, the best first.
     enum class Rank { PressableOnlySince, PressedAgain, OnThePage, BesideThePages };
     [[nodiscard]] Rank RankOf(const Button& button) const;
-    [[nodiscard]] const Entry* Best() const;
+    [[nodiscard]] const Button* Best() const;
     void Settle();
 
-    QWidget& window_;
-    std::vector<Entry> entries_;              // in tab order
+    Drawing& drawing_;
+    std::vector<const Button*> buttons_;      // in tab order
     std::vector<const Button*> beforePress_;  // those that could be pressed then
     const Button* pressed_ = nullptr;         // the outermost press at work, or just done
     const Button* last_ = nullptr;            // the last that lost the focus
@@ -52,4 +46,4 @@ class FocusKeeper {
     int pressing_ = 0;
 };
 
-}  // namespace keplin::qt
+}  // namespace keplin

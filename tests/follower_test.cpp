@@ -1,0 +1,203 @@
+// What happens at each change of the window and at each press, whatever draws it.
+#include "ui/follower.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace keplin::test {
+namespace {
+
+// A drawing without a toolkit: it remembers what it is asked for.
+class PlainDrawing : public Drawing {
+  public:
+    explicit PlainDrawing(ISPMain& model) : follower(model, *this, [this] { return now; }) {}
+
+    // A toolkit passes on by itself the focus of a button that it has to hide or disable.
+    void Apply(const Control& control, Aspect aspect) override {
+        EXPECT_TRUE(focused == nullptr || focused->CanBePressed()) << focused->Name;
+        asked += control.Name + "." + NameOf(aspect) + "\n";
+    }
+    void Refit(const Label& label) override { asked += "refit " + label.Name + "\n"; }
+    [[nodiscard]] const Button* Focused() const override { return focused; }
+    void Focus(const Button* button) override {
+        focused = button;
+        if (button != nullptr) follower.FocusCame(*button);
+    }
+    void CallForAttention() override { asked += "call\n"; }
+    [[nodiscard]] bool IsHeard() const override { return true; }
+    void SpeakSoon() override { asked += "speak soon\n"; }
+    void Describe(const Button& button, const std::string& news) override {
+        description = button.Name + ": " + news;
+    }
+    void Announce(const Button& button, const std::string& news) override {
+        asked += button.Name + " says: " + news + "\n";
+    }
+
+    std::string asked;
+    std::string description;  // that was given last
+    const Button* focused = nullptr;
+    PressGuard::Moment now{};
+    Follower follower;
+};
+
+// The window with its getting-started page.
+class FollowerTest : public testing::Test {
+  protected:
+    FollowerTest() {
+        for (Control* hidden : std::initializer_list<Control*>{
+                 &model.lblPrgm, &model.PicGettingStarted, &model.PicSetup, &model.PicProgram})
+            hidden->Visible = false;
+        ShowPage(model.PicGettingStarted);
+        drawing.follower.Start();
+        model.Visible = true;
+        LetButtonsBePressed();
+    }
+
+    void LetButtonsBePressed() { drawing.now += PressGuard::kPause; }
+
+    void Show(Page& page) {
+        for (Page* other : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {
+            if (other != &page) other->Visible = false;
+        }
+        ShowPage(page);
+        LetButtonsBePressed();
+    }
+
+    [[nodiscard]] std::string Focused() const {
+        return drawing.focused == nullptr ? "" : drawing.focused->Name;
+    }
+    // On the button that has the focus.
+    void Enter() {
+        if (drawing.focused == nullptr) return;
+        const Button& button = *drawing.focused;
+        if (drawing.follower.KeyDown(button, PressKey::Enter, false) == KeyEffect::Press)
+            drawing.follower.Press(button);
+    }
+
+    ISPMain model;
+    PlainDrawing drawing{model};
+};
+
+TEST_F(FollowerTest, TheFocusGoesToAButtonThatCanBePressed) {
+    EXPECT_EQ(Focused(), "Next_1");
+    drawing.Focus(nullptr);
+    model.PicGettingStarted.Visible = false;
+    EXPECT_EQ(Focused(), "cmdExit");
+    model.Next_2.Enabled = false;
+    Show(model.PicSetup);
+    EXPECT_EQ(Focused(), "cmdPortTest");
+    model.Next_2.Enabled = true;
+    EXPECT_EQ(Focused(), "cmdPortTest");
+    model.cmdPortTest.Enabled = false;
+    EXPECT_EQ(Focused(), "Next_2");
+    model.cmdExit.Enabled = false;
+    model.Next_2.Enabled = false;
+    EXPECT_EQ(Focused(), "");
+    model.Next_2.Enabled = true;
+    model.cmdPortTest.Enabled = true;
+    EXPECT_EQ(Focused(), "Next_2");
+    model.cmdExit.Enabled = true;
+    drawing.Focus(&model.cmdExit);
+    Show(model.PicProgram);
+    EXPECT_EQ(Focused(), "cmdExit") << "the technician has put it there";
+}
+
+TEST_F(FollowerTest, WhileAPressIsAtWorkALostFocusPressesNothing) {
+    bool found = false;
+    model.cmdPortTest.OnClick = [&] {
+        model.cmdPortTest.Enabled = false;
+        EXPECT_EQ(Focused(), "");
+        if (found) model.Next_2.Enabled = true;
+        model.cmdPortTest.Enabled = true;
+        EXPECT_EQ(Focused(), "");
+    };
+    model.Next_2.Enabled = false;
+    Show(model.PicSetup);
+    Enter();
+    EXPECT_EQ(Focused(), "cmdPortTest");
+    LetButtonsBePressed();
+    found = true;
+    Enter();
+    EXPECT_EQ(Focused(), "Next_2");
+    drawing.Focus(&model.cmdPortTest);
+    LetButtonsBePressed();
+    Enter();
+    EXPECT_EQ(Focused(), "cmdPortTest");
+}
+
+// The second stroke of a double press, and a click on a grey button or on the title bar's close
+// control that waits for a pause to end.
+TEST_F(FollowerTest, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
+    const Follower& follower = drawing.follower;
+    int requests = 0;
+    model.OnCloseRequest = [&] { ++requests; };
+    const auto takes = [&](bool repeated = false) {
+        const KeyEffect enter = follower.KeyDown(model.Command1, PressKey::Enter, repeated);
+        const KeyEffect space = follower.KeyDown(model.Command1, PressKey::Space, repeated);
+        const bool mouse = follower.MouseDown(model.Command1);
+        EXPECT_EQ(enter == KeyEffect::Press, mouse && !repeated);
+        EXPECT_EQ(space == KeyEffect::Hold, mouse && !repeated);
+        return mouse;
+    };
+    Show(model.PicProgram);
+    EXPECT_TRUE(takes());
+    EXPECT_TRUE(takes(true)) << "by the mouse";
+    for (Button* button : {&model.Command1, &model.cmdExit}) {
+        button->Enabled = false;
+        EXPECT_FALSE(takes() && button == &model.Command1);
+        button->Enabled = true;
+    }
+    drawing.now += PressGuard::kPause - std::chrono::milliseconds(1);
+    EXPECT_FALSE(takes());
+    drawing.follower.CloseAsked();
+    EXPECT_EQ(requests, 0);
+    drawing.now += std::chrono::milliseconds(1);
+    EXPECT_TRUE(takes());
+    drawing.follower.CloseAsked();
+    EXPECT_EQ(requests, 1);
+}
+
+TEST_F(FollowerTest, WhatHangsTogetherFollowsTogether) {
+    drawing.asked.clear();
+    model.Height = 5460;
+    EXPECT_EQ(std::exchange(drawing.asked, ""), "ISPMain.Height\nStatusBar1.Top\nStatusBar2.Top\n");
+    Show(model.PicProgram);
+    model.cmdExit.Enabled = false;
+    drawing.asked.clear();
+    model.ProgressBar1.Visible = false;
+    EXPECT_EQ(std::exchange(drawing.asked, ""),
+              "ProgressBar1.Visible\nrefit Label10\nrefit lblPrgm\n");
+    model.cmdExit.Enabled = true;
+    EXPECT_EQ(drawing.asked, "cmdExit.Enabled\ncall\n");
+}
+
+TEST_F(FollowerTest, NewsBelongsToTheButtonWithTheFocus) {
+    Show(model.PicSetup);
+    drawing.follower.Speak();
+    drawing.asked.clear();
+    model.lblResults.Caption = "Query to Port 1";
+    model.lblResults.Caption = "Query to Port 2";
+    EXPECT_EQ(drawing.asked,
+              "lblResults.Caption\nspeak soon\n"
+              "lblResults.Caption\n");
+    drawing.asked.clear();
+    drawing.follower.Speak();
+    EXPECT_EQ(std::exchange(drawing.asked, ""), Focused() + " says: Query to Port 2\n");
+    EXPECT_EQ(drawing.description, Focused() + ": Query to Port 2");
+    drawing.Focus(&model.cmdExit);
+    EXPECT_EQ(drawing.description, "cmdExit: Query to Port 2");
+    EXPECT_EQ(drawing.asked, "");
+    drawing.Focus(&model.cmdPortTest);
+    model.cmdPortTest.OnClick = [&] {
+        Show(model.PicProgram);
+        drawing.asked.clear();
+        drawing.follower.Speak();
+        EXPECT_EQ(drawing.asked, "") << "the button with the focus is out of sight";
+    };
+    Enter();
+    EXPECT_TRUE(drawing.description.starts_with("Command1: Note:")) << drawing.description;
+}
+
+}  // namespace
+}  // namespace keplin::test

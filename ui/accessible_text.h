@@ -1,0 +1,24 @@
+// What a screen reader is told of each control.
+#pragma once
+
+#include <chrono>
+#include <string>
+
+#include "ui/controls.h"
+
+namespace keplin {
+
+struct AccessibleText {
+    std::string name;         // never empty for what a technician can see
+    std::string description;  // of a progress bar: how far it is, its value in words
+};
+
+// As the control stands now; to be asked again when its Caption or Value changes. A button has no
+// description but that which Drawing::Describe gives it. Pages, shapes, bars around panels and
+// timers have neither.
+AccessibleText AccessibleTextOf(const Control& control);
+
+// A step of a progress bar that comes sooner after the one told last is not worth a word.
+inline constexpr std::chrono::milliseconds kBetweenSpokenSteps{1000};
+
+}  // namespace keplin

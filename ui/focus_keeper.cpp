@@ -1,0 +1,79 @@
+#include "ui/focus_keeper.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace keplin {
+
+FocusKeeper::FocusKeeper(const std::vector<Control*>& controls, Drawing& drawing)
+    : drawing_(drawing) {
+    for (const Control* control : controls) {
+        if (const auto* button = dynamic_cast<const Button*>(control)) buttons_.push_back(button);
+    }
+    std::stable_sort(buttons_.begin(), buttons_.end(), [](const Button* one, const Button* other) {
+        return one->TabIndex < other->TabIndex;
+    });
+}
+
+void FocusKeeper::BeforeChange() {
+    const Button* focused = drawing_.Focused();
+    if (focused == nullptr || focused->CanBePressed()) return;
+    last_ = focused;
+    drawing_.Focus(nullptr);
+}
+
+void FocusKeeper::AfterChange() {
+    if (pressing_ == 0) Settle();
+}
+
+void FocusKeeper::Press(const Button& button) {
+    if (pressing_++ == 0) {
+        beforePress_ = Pressable();
+        pressed_ = &button;
+    }
+    button.Press();
+    if (--pressing_ == 0) {
+        Settle();
+        beforePress_.clear();
+        pressed_ = nullptr;
+    }
+}
+
+std::vector<const Button*> FocusKeeper::Pressable() const {
+    std::vector<const Button*> pressable;
+    std::copy_if(buttons_.begin(), buttons_.end(), std::back_inserter(pressable),
+                 [](const Button* button) { return button->CanBePressed(); });
+    return pressable;
+}
+
+FocusKeeper::Rank FocusKeeper::RankOf(const Button& button) const {
+    if (button.Container == nullptr) return Rank::BesideThePages;
+    if (pressed_ == nullptr) return Rank::OnThePage;
+    if (&button == pressed_) return Rank::PressedAgain;
+    const auto before = std::find(beforePress_.begin(), beforePress_.end(), &button);
+    return before == beforePress_.end() ? Rank::PressableOnlySince : Rank::OnThePage;
+}
+
+const Button* FocusKeeper::Best() const {
+    const auto last = std::find(buttons_.begin(), buttons_.end(), last_);
+    const auto start = static_cast<std::size_t>(last - buttons_.begin()) + 1;
+    const Button* best = nullptr;
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        const Button* button = buttons_[(start + i) % buttons_.size()];
+        if (!button->CanBePressed()) continue;
+        if (best == nullptr || RankOf(*button) < RankOf(*best)) best = button;
+    }
+    return best;
+}
+
+// A focus that the technician has put somewhere stays there.
+void FocusKeeper::Settle() {
+    const Button* focused = drawing_.Focused();
+    if (focused != nullptr && focused != provisional_) return;
+    const Button* best = Best();
+    if (best == nullptr) return;
+    if (best != focused) drawing_.Focus(best);
+    provisional_ = best->Container == nullptr ? best : nullptr;
+}
+
+}  // namespace keplin

@@ -1,0 +1,29 @@
+#include "ui/qt/show_timer.h"
+
+#include <utility>
+
+namespace keplin::qt {
+
+ShowTimer::ShowTimer(Throttle::Pause pause, std::function<void()> show)
+    : throttle_(pause), show_(std::move(show)) {
+    later_.setSingleShot(true);
+    later_.callOnTimeout([this] { ShowNow(); });
+}
+
+void ShowTimer::ShowSoon() {
+    const auto wait = throttle_.Changed();
+    if (!wait) return;
+    if (*wait == Throttle::Pause::zero()) {
+        ShowNow();
+    } else {
+        later_.start(*wait);
+    }
+}
+
+void ShowTimer::ShowNow() {
+    later_.stop();
+    show_();
+    throttle_.Shown();
+}
+
+}  // namespace keplin::qt
