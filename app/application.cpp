@@ -16,7 +16,8 @@ void HoldBackOrEnd(QtMsgType type, const QMessageLogContext& context, const QStr
         heldBack += qFormatLogMessage(type, context, text).toStdString() + "\n";
         return;
     }
-    std::cerr << heldBack << QCoreApplication::applicationName().toStdString()
+    std::cerr << heldBack << text.toStdString() << "\n"
+              << QCoreApplication::applicationName().toStdString()
               << ": there is no display to show the window on; start it on a desktop (one with "
                  "Wayland alone needs the package qt6-wayland)"
               << std::endl;

@@ -49,7 +49,7 @@ void StagePictures::Changed(const Control& control, const PropertyBase& property
     if (&control == &window_.lblPrgm && aspect == Aspect::Caption) {
         Take(window_.lblPrgm.Caption.Get());
     }
-    const bool programming = window_.lblPrgm.Caption.Get() == "Programming Device";
+    const bool programming = window_.ProgressBar1.Counts == ProgressBar::Unit::Lines;
     if (&control == &window_.ProgressBar1 && aspect == Aspect::Value && programming &&
         window_.ProgressBar1.Done() >= 0.5F && !std::exchange(middleTaken_, true)) {
         Take("Programming, half done");

@@ -1,4 +1,4 @@
-// Numbers that the serial port control hands over in 32 bits and the program keeps in 16.
+// Numbers that come in 32 bits and that the program keeps in 16.
 #pragma once
 
 #include <cstdint>

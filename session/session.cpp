@@ -84,16 +84,20 @@ void Session::cmdPortTest_Click() {
         window_.cmdExit.Enabled = false;
         std::int16_t port = kNoPort;
         PassOver([&] { port = search_.FindDevicePort(); });
-        if (port == kNoPort) {
-            window_.lblResults.Caption = " Communications Fail on All Ports";
-        } else {
-            window_.lblResults.Caption =
-                " Port " + std::to_string(port) + " Ready.  Click NEXT to continue.";
-            window_.Next_2.Enabled = true;
-        }
+        PassOver([&] { ShowFoundPort(port); });
         window_.cmdPortTest.Enabled = true;
         window_.cmdExit.Enabled = true;
     });
+}
+
+void Session::ShowFoundPort(std::int16_t port) {
+    if (port == kNoPort) {
+        window_.lblResults.Caption = " Communications Fail on All Ports";
+    } else {
+        window_.lblResults.Caption =
+            " Port " + std::to_string(port) + " Ready.  Click NEXT to continue.";
+        window_.Next_2.Enabled = true;
+    }
 }
 
 void Session::Next_2_Click() {
@@ -128,9 +132,11 @@ void Session::Form_CloseRequest() {
 
 void Session::Form_Unload() {
     closing_ = true;
-    desktop_.YieldOnce();
-    Win95Shrivel(window_);
-    desktop_.YieldOnce();
+    PassOver([&] {
+        desktop_.YieldOnce();
+        Win95Shrivel(window_);
+        desktop_.YieldOnce();
+    });
     desktop_.End();
 }
 

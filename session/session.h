@@ -29,6 +29,7 @@ class Session {
   private:
     void Next_1_Click();
     void cmdPortTest_Click();
+    void ShowFoundPort(std::int16_t port);
     void Next_2_Click();
     void Command1_Click();
     void cmdExit_Click();

@@ -25,7 +25,7 @@ class PlainDrawing : public Drawing {
         if (button != nullptr) follower.FocusCame(*button);
     }
     void CallForAttention() override { asked += "call\n"; }
-    [[nodiscard]] bool IsHeard() const override { return true; }
+    [[nodiscard]] bool IsHeard() const override { return heard; }
     void SpeakSoon() override { asked += "speak soon\n"; }
     void Describe(const Button& button, const std::string& news) override {
         description = button.Name + ": " + news;
@@ -37,6 +37,7 @@ class PlainDrawing : public Drawing {
     std::string asked;
     std::string description;  // that was given last
     const Button* focused = nullptr;
+    bool heard = true;
     PressGuard::Moment now{};
     Follower follower;
 };
@@ -197,6 +198,23 @@ TEST_F(FollowerTest, NewsBelongsToTheButtonWithTheFocus) {
     };
     Enter();
     EXPECT_TRUE(drawing.description.starts_with("Command1: Note:")) << drawing.description;
+}
+
+// A screen reader that comes in the midst of a run is told how that ended.
+TEST_F(FollowerTest, WhatNobodyHeardIsNoNews) {
+    Show(model.PicProgram);
+    drawing.heard = false;
+    drawing.asked = drawing.description = "";
+    model.cmdExit.Enabled = false;
+    model.lblPrgm.Visible = true;
+    drawing.Focus(&model.Command1);
+    EXPECT_EQ(drawing.asked + drawing.description, "cmdExit.Enabled\nlblPrgm.Visible\n");
+    drawing.heard = true;
+    model.cmdExit.Enabled = true;
+    drawing.follower.Speak();
+    EXPECT_TRUE(
+        drawing.asked.ends_with(" says: Programming in Progress. The update has stopped.\n"))
+        << drawing.asked;
 }
 
 }  // namespace

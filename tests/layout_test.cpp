@@ -131,13 +131,13 @@ TEST(Throttle, ShowsTheFirstChangeAtOnceAndTheRestTogether) {
     Throttle::Moment now{};
     Throttle throttle(milliseconds(34), [&] { return now; });
     EXPECT_EQ(throttle.Changed(), milliseconds(0));
-    throttle.Shown();
+    throttle.WasShown();
     now += milliseconds(10);
     EXPECT_EQ(throttle.Changed(), milliseconds(24));
     EXPECT_EQ(throttle.Changed(), std::nullopt);
-    throttle.Shown();  // out of turn
+    throttle.WasShown();  // out of turn
     EXPECT_EQ(throttle.Changed(), milliseconds(34));
-    throttle.Shown();
+    throttle.WasShown();
     now += milliseconds(40);
     EXPECT_EQ(throttle.Changed(), milliseconds(0));
 }

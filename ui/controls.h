@@ -1,5 +1,6 @@
-// The kinds of control on the window, each as plain data with its events. A drawing creates one
-// widget for each and calls Press and Tick when the technician or a timer acts.
+// The kinds of control on the window, each as plain data with its events. A drawing makes one
+// widget for each, calls Tick when a timer acts, and hands what the technician does to its
+// Follower.
 #pragma once
 
 #include <functional>

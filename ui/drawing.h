@@ -37,9 +37,11 @@ class Drawing {
     // Takes over from the model what the aspect names, whether the control is in sight or not.
     // What stands in the model may have changed further by then. Must not wait for anything.
     //
-    // For the window itself: Caption is its title; Height its outer height, so that the client area
-    // becomes Scale::ClientSize; Visible shows it in the middle of the screen or hides it;
-    // WindowState minimises it. For a status bar Top means that the bottom edge has moved.
+    // For a progress bar Min and Max show nothing by themselves, but together with the Value that
+    // is set next: a new range around an old value is no progress. For the window itself: Caption
+    // is its title; Height its outer height, so that the client area becomes Scale::ClientSize;
+    // Visible shows it in the middle of the screen or hides it; WindowState minimises it. For a
+    // status bar Top means that the bottom edge has moved.
     virtual void Apply(const Control& control, Aspect aspect) = 0;
 
     // A neighbour of the label came or went: its TextFit::FontOf may be another one now. Apply does

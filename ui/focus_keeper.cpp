@@ -56,7 +56,8 @@ FocusKeeper::Rank FocusKeeper::RankOf(const Button& button) const {
 
 const Button* FocusKeeper::Best() const {
     const auto last = std::find(buttons_.begin(), buttons_.end(), last_);
-    const auto start = static_cast<std::size_t>(last - buttons_.begin()) + 1;
+    const auto start =
+        last == buttons_.end() ? 0 : static_cast<std::size_t>(last - buttons_.begin()) + 1;
     const Button* best = nullptr;
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         const Button* button = buttons_[(start + i) % buttons_.size()];

@@ -23,7 +23,7 @@ class ISPMain : public Form {
   public:
     ISPMain();
 
-    // The technician sees the completion page: every line of the update was acknowledged.
+    // The technician sees the completion page: every line that was sent was acknowledged.
     [[nodiscard]] bool UpdateComplete() const;
 
     // Directly on the window.

@@ -34,7 +34,7 @@ class Scale {
 
 // As many dots per inch as the desktop has, or fewer on a screen that could not show all buttons.
 // `screen` is the part of it that windows may take, in pixels; one without a size stands for no
-// screen at all: the desktop has them switched off. To be asked before the window's height is set.
+// screen at all: the desktop has them switched off.
 double FittingDotsPerInch(double desktop, PixelSize screen, const Form& window);
 
 // Where a window of that outer size stands in the middle of the screen.

@@ -1,9 +1,13 @@
 #include "ui/speaker.h"
 
+#include <utility>
+
 namespace keplin {
 
 void Speaker::Changed(const Control& control, Aspect aspect) {
-    if (!drawing_.IsHeard() || !texts_.Changed(control, aspect) || due_) return;
+    const bool news = texts_.Changed(control, aspect);
+    if (!drawing_.IsHeard()) texts_.Drop();
+    if (!news || due_ || !drawing_.IsHeard()) return;
     due_ = true;
     drawing_.SpeakSoon();
 }
@@ -11,7 +15,7 @@ void Speaker::Changed(const Control& control, Aspect aspect) {
 // What comes while the focused button is out of sight waits for the focus.
 void Speaker::Speak() {
     due_ = false;
-    if (focused_ == nullptr || !focused_->Shown()) return;
+    if (focused_ == nullptr || !focused_->Shown() || !drawing_.IsHeard()) return;
     const std::string news = texts_.Take();
     if (news.empty()) return;
     drawing_.Describe(*focused_, news);
@@ -20,8 +24,9 @@ void Speaker::Speak() {
 
 void Speaker::FocusCame(const Button& button) {
     if (&button == focused_) return;
-    if (focused_ != nullptr) drawing_.Describe(*focused_, "");
-    focused_ = &button;
+    const Button* before = std::exchange(focused_, &button);
+    if (!drawing_.IsHeard()) return;
+    if (before != nullptr) drawing_.Describe(*before, "");
     const std::string news = texts_.Take();
     drawing_.Describe(button, news.empty() ? texts_.Latest() : news);
 }

@@ -15,6 +15,9 @@ class SpokenTexts {
     // Takes note of a change. True when there is something new to speak.
     bool Changed(const Control& control, Aspect aspect);
 
+    // Nothing of it is new any more: nobody listened.
+    void Drop() { fresh_ = {}; }
+
     // All that is new since the last call, as one message; a text that changed twice as it is now.
     // "" when nothing is new.
     [[nodiscard]] std::string Take();

@@ -32,9 +32,6 @@ class TextFit {
     // goes.
     [[nodiscard]] TextFont FontOf(const Label& label) const;
 
-    // The room of a label among its siblings: a button or bar beside it, the label below it.
-    [[nodiscard]] TextRoom RoomOf(const Label& label) const;
-
     // The part of the label's place that the text may fill, from the label's top-left corner.
     [[nodiscard]] PixelRect AreaOf(const Label& label) const;
 
@@ -42,6 +39,8 @@ class TextFit {
     using Inks = std::vector<Rect<double>>;
 
     [[nodiscard]] TextFont Choose() const;
+    // Among its siblings: a button or bar beside it, the label below it.
+    [[nodiscard]] TextRoom RoomOf(const Label& label) const;
     [[nodiscard]] bool EveryTextFits(const TextFont& chosen) const;
     [[nodiscard]] bool Fits(const Label& label, const TextFont& font, const TextRoom& room) const;
     [[nodiscard]] const Inks& InksOf(const Label& label, const TextFont& font, double width) const;

@@ -19,7 +19,7 @@ std::optional<Throttle::Pause> Throttle::Changed() {
     return left;
 }
 
-void Throttle::Shown() {
+void Throttle::WasShown() {
     shown_ = clock_();
     waiting_ = false;
 }

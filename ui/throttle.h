@@ -26,7 +26,7 @@ class Throttle {
     std::optional<Pause> Changed();
 
     // It was shown just now, whether it was due or not; whoever waits for it need not any more.
-    void Shown();
+    void WasShown();
 
   private:
     const Pause pause_;

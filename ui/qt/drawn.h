@@ -16,7 +16,7 @@ class Drawn {
     // Takes over from the model what the aspect names.
     virtual void Apply(Aspect aspect) = 0;
 
-    // A neighbour came, went or moved, which may leave the control more room or less.
+    // A neighbour came or went, which may leave the control more room or less.
     virtual void Refit() {}
 };
 

@@ -8,7 +8,7 @@
 
 namespace keplin::qt {
 
-// Keeps its colour whatever the desktop's theme is; what stands on it keeps the theme's.
+// Keeps its colour whatever the desktop's theme is.
 class PageWidget final : public QWidget, public Drawn {
   public:
     PageWidget(const Page& page, const Look& look, QWidget* parent);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QWidget>
-#include <optional>
 #include <unordered_map>
 
 #include "ui/follower.h"
@@ -39,7 +38,6 @@ class MainWindow : public QWidget, public Drawing {
     const Look look_;
     Follower follower_;
     std::unordered_map<const Control*, Drawn*> drawn_;
-    std::optional<Observation> following_;
 };
 
 }  // namespace keplin::qt

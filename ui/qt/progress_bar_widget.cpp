@@ -17,7 +17,7 @@ ProgressBarWidget::ProgressBarWidget(const ProgressBar& bar, const Look& look, Q
 }
 
 void ProgressBarWidget::Apply(Aspect aspect) {
-    if (aspect == Aspect::Min || aspect == Aspect::Max || aspect == Aspect::Value) {
+    if (aspect == Aspect::Value) {
         showTimer_.ShowSoon();
     } else {
         if (aspect == Aspect::Visible) showTimer_.ShowNow();

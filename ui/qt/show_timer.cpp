@@ -23,7 +23,7 @@ void ShowTimer::ShowSoon() {
 void ShowTimer::ShowNow() {
     later_.stop();
     show_();
-    throttle_.Shown();
+    throttle_.WasShown();
 }
 
 }  // namespace keplin::qt

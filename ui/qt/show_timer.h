@@ -10,7 +10,7 @@ namespace keplin::qt {
 
 class ShowTimer {
   public:
-    // `show` is called at most once in that pause.
+    // `show` is called at most once in that pause, but for ShowNow.
     ShowTimer(Throttle::Pause pause, std::function<void()> show);
 
     // Something changed.
