@@ -9,7 +9,7 @@
 
 namespace keplin {
 
-// What an open-file dialog is to show. Paths are the bytes that the file system uses.
+// What an open-file dialog is to show. Paths are as in path.h.
 struct OpenFileRequest {
     std::string filter;            // "description|pattern"
     std::string title;             // of the dialog's window

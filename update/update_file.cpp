@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "device/int16.h"
+#include "platform/path.h"
 #include "ui/program_instructions.h"
 #include "update/line_reader.h"
 #include "update/line_sum.h"
@@ -59,7 +60,8 @@ std::string UpdateFile::ChooseFile() {
 
 // Only a regular file has an end: a pipe or a device would keep the window waiting for ever.
 void UpdateFile::OpenForReading(const std::string& path) {
-    if (std::filesystem::is_regular_file(path)) file_.open(path, std::ios::binary);
+    const std::filesystem::path file = ToPath(path);
+    if (std::filesystem::is_regular_file(file)) file_.open(file, std::ios::binary);
     if (!file_.is_open()) throw std::runtime_error("cannot open");
 }
 

@@ -1,16 +1,17 @@
 // The texts of tests/data, which are too long to stand in a test.
 #pragma once
 
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+
+#include "platform/path.h"
 
 namespace keplin::test {
 
 // All that the file holds; empty when there is none.
 inline std::string Data(const std::string& name) {
-    std::ifstream file(std::filesystem::path(KEPLIN_TEST_DATA) / name, std::ios::binary);
+    std::ifstream file(ToPath(KEPLIN_TEST_DATA) / name, std::ios::binary);
     return {std::istreambuf_iterator(file), {}};
 }
 

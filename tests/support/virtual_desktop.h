@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "platform/desktop.h"
+#include "platform/path.h"
 #include "tests/support/trace.h"
 #include "ui/isp_main.h"
 
@@ -56,7 +57,7 @@ class VirtualDesktop : public Desktop {
 
     std::uint64_t FileLength(const std::string& path) override {
         if (FactsFail) throw std::runtime_error("no facts");
-        return std::filesystem::file_size(path);
+        return std::filesystem::file_size(ToPath(path));
     }
 
     std::string FileDateTime(const std::string&) override { return "11/22/26 9:41 PM"; }
