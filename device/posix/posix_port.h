@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,10 +11,11 @@
 #include "device/device_paths.h"
 #include "device/serial_port.h"
 #include "platform/posix/unique_fd.h"
+#include "platform/posix/watched_descriptor.h"
 
 namespace keplin {
 
-class PosixPort : public SerialPort {
+class PosixPort : public SerialPort, public WatchedDescriptor {
   public:
     // `devicePaths` is asked at each opening, so that a port plugged in meanwhile is found.
     // `lockFolder` is where terminal programs leave their lock files.
@@ -58,16 +58,8 @@ class PosixPort : public SerialPort {
     // an adapter may come back under another name.
     void ReopenLostLine() override;
 
-    // Notices a line that hung up while nobody uses it.
-    void CheckLine() noexcept;
-
-    // Called with the descriptor of each line that opens, and with -1 before it closes.
-    std::function<void(int descriptor)> OnLineChange;
-
-    // Whether to wait for the next byte before reading again: nothing was read since the last
-    // opening, discard or write, or the last read found nothing. Says so once for each read that
-    // finds nothing; the next ReadByte notices a line that hung up meanwhile.
-    [[nodiscard]] bool TakeIdle() { return std::exchange(idle_, false) && line_; }
+    [[nodiscard]] bool TakeIdle() override { return std::exchange(idle_, false) && line_; }
+    void CheckLine() noexcept override;
 
   private:
     using Moment = std::chrono::steady_clock::time_point;
