@@ -39,10 +39,7 @@ class MarkingDesktop : public test::VirtualDesktop {
 // Marks the moment at which the last panel has its text.
 class LastPanelWatch : public Observer {
   public:
-    explicit LastPanelWatch(ISPMain& window) : window_(window) { window.Observe(this); }
-    ~LastPanelWatch() override { window_.Observe(nullptr); }
-    LastPanelWatch(const LastPanelWatch&) = delete;
-    LastPanelWatch& operator=(const LastPanelWatch&) = delete;
+    explicit LastPanelWatch(ISPMain& window) : window_(window) {}
 
     void Changed(const Control& control, Aspect) override {
         if (&control == &window_.StatusBar2.Panels(3)) Shown = Mark();
@@ -51,6 +48,7 @@ class LastPanelWatch : public Observer {
 
   private:
     ISPMain& window_;
+    Observation watching_{window_, *this};
 };
 
 // The program loads a file once, into slots that are empty; so does each round here.
@@ -59,9 +57,9 @@ void Load(benchmark::State& state, const std::string& path) {
         ISPMain window;
         test::Trace trace;
         trace.Recording = false;
-        MarkingDesktop desktop(window, trace);
+        test::VirtualTime time;
+        MarkingDesktop desktop(window, trace, time);
         desktop.Answer = path;
-        desktop.NextArrival = [&desktop] { return desktop.Clock; };
         UpdateFile file(window, desktop);
         const LastPanelWatch watch(window);
         if (!file.LoadUpdateFile()) state.SkipWithError("not loaded");

@@ -1,7 +1,6 @@
 #include "demo/change_printer.h"
 
 #include <iostream>
-#include <utility>
 
 #include "ui/describe.h"
 
@@ -15,14 +14,8 @@ bool IsWorthALine(Aspect aspect) {
 
 }  // namespace
 
-ChangePrinter::ChangePrinter(Observer& drawing,
-                             std::function<void(const Control&, Aspect)> afterwards)
-    : drawing_(drawing), afterwards_(std::move(afterwards)) {}
-
 void ChangePrinter::Changed(const Control& control, Aspect aspect) {
-    drawing_.Changed(control, aspect);
     if (IsWorthALine(aspect)) std::cout << Describe(control, aspect) << std::endl;
-    if (afterwards_) afterwards_(control, aspect);
 }
 
 }  // namespace keplin

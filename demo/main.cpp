@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app/qt/application.h"
@@ -31,21 +32,15 @@ class Demonstration {
           program_([this] { return controller_->DevicePaths(); }, Hooks()),
           ribbon_(MarkAsDemonstration(program_.drawing)),
           pictures_(program_.window, program_.drawing, ribbon_, options_.pictures),
-          walk_(program_.window, program_.drawing, pictures_, options_.again),
-          printer_(program_.drawing, [this](const Control& control, Aspect aspect) {
-              pictures_.TakeAtStage(control, aspect);
-          }) {
+          walk_(program_.window, program_.drawing, pictures_, options_.again) {
         OpenManualOnF1(program_.drawing);
     }
-    ~Demonstration() { program_.window.Observe(&program_.drawing); }
-    Demonstration(const Demonstration&) = delete;
-    Demonstration& operator=(const Demonstration&) = delete;
 
     int Run() {
         // The open-file dialog starts here.
         QDir::setCurrent(QFileInfo(QFile::decodeName(options_.file.c_str())).absolutePath());
         if (options_.walk) {
-            program_.window.Observe(&printer_);
+            printer_.emplace(program_.window);
             QTimer::singleShot(0, [this] { walk_.Go(); });
         }
         program_.session.Main();
@@ -109,7 +104,7 @@ class Demonstration {
     QWidget& ribbon_;
     StagePictures pictures_;
     Walk walk_;
-    ChangePrinter printer_;
+    std::optional<ChangePrinter> printer_;
 };
 
 }  // namespace

@@ -23,9 +23,12 @@ std::string FileName(int number, std::string_view name) {
 
 }  // namespace
 
-StagePictures::StagePictures(const ISPMain& window, QWidget& drawing, QWidget& ribbon,
-                             std::string folder)
-    : window_(window), drawing_(drawing), ribbon_(ribbon), folder_(std::move(folder)) {}
+StagePictures::StagePictures(ISPMain& window, QWidget& drawing, QWidget& ribbon, std::string folder)
+    : window_(window),
+      drawing_(drawing),
+      ribbon_(ribbon),
+      folder_(std::move(folder)),
+      observing_(window, *this) {}
 
 void StagePictures::Take(std::string_view name) {
     if (folder_.empty()) return;
@@ -38,7 +41,7 @@ void StagePictures::Take(std::string_view name) {
     }
 }
 
-void StagePictures::TakeAtStage(const Control& control, Aspect aspect) {
+void StagePictures::Changed(const Control& control, Aspect aspect) {
     if (&control == &window_.lblResults && aspect == Aspect::Caption) {
         Take(window_.lblResults.Caption.Get());
     }

@@ -1,5 +1,6 @@
 #include "device/device_exchange.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -14,6 +15,9 @@ using namespace std::chrono_literals;
 constexpr std::uint8_t kPing = 0x55;
 constexpr auto kAnswerTime = 50ms;
 constexpr std::int32_t kNoByte = -1;
+
+// A yield takes milliseconds, unless the technician holds the window: nobody listened meanwhile.
+constexpr auto kLongestYield = 1s;
 constexpr std::int32_t kLineFeed = 10;
 
 constexpr std::string_view kCalibration = ":010000020CF1";
@@ -28,12 +32,15 @@ class ReplyLine {
     ReplyLine(std::size_t recordLength, Desktop& desktop)
         : lengthLimit_(recordLength + kReplyExcessLimit),
           desktop_(desktop),
-          lastByte_(desktop.Now()) {}
+          lastLook_(desktop.Now()) {}
 
     void Take(std::int32_t byte) {
+        const auto sinceLook = desktop_.Now() - lastLook_;
+        lastLook_ += sinceLook;
+        silence_ += std::min<std::chrono::milliseconds>(sinceLook, kLongestYield);
         if (byte == kNoByte) return;
         text_.push_back(static_cast<char>(byte));
-        lastByte_ = desktop_.Now();
+        silence_ = 0ms;
         done_ = byte == kLineFeed;
     }
 
@@ -41,14 +48,15 @@ class ReplyLine {
     [[nodiscard]] const std::string& Text() const { return text_; }
     [[nodiscard]] bool GivenUp() const {
         if (done_) return false;
-        return text_.size() >= lengthLimit_ || desktop_.Now() - lastByte_ >= kReplySilenceLimit;
+        return text_.size() >= lengthLimit_ || silence_ >= kReplySilenceLimit;
     }
 
   private:
     const std::size_t lengthLimit_;
     Desktop& desktop_;
     std::string text_;
-    std::chrono::milliseconds lastByte_;
+    std::chrono::milliseconds lastLook_;
+    std::chrono::milliseconds silence_{0};  // listened to since the last byte
     bool done_ = false;
 };
 

@@ -44,7 +44,7 @@ Session::Session(ISPMain& window, SerialPort& port, Desktop& desktop)
     window.Command1.OnClick = On(&Session::Command1_Click);
     window.cmdExit.OnClick = On(&Session::cmdExit_Click);
     window.Timer1.OnTimer = On(&Session::Timer1_Tick);
-    window.Window.OnCloseRequest = On(&Session::Form_CloseRequest);
+    window.OnCloseRequest = On(&Session::Form_CloseRequest);
 }
 
 Session::~Session() {
@@ -53,7 +53,7 @@ Session::~Session() {
         button->OnClick = nullptr;
     }
     window_.Timer1.OnTimer = nullptr;
-    window_.Window.OnCloseRequest = nullptr;
+    window_.OnCloseRequest = nullptr;
 }
 
 std::function<void()> Session::On(Handler handler) {
@@ -68,8 +68,8 @@ void Session::Main() {
     ShowPage(window_.PicGettingStarted);
     window_.PicSetup.Visible = false;
     window_.PicProgram.Visible = false;
-    window_.Window.Height = kShownHeight;
-    window_.Window.Visible = true;
+    window_.Height = kShownHeight;
+    window_.Visible = true;
 }
 
 void Session::Next_1_Click() {
@@ -129,7 +129,7 @@ void Session::Form_CloseRequest() {
 void Session::Form_Unload() {
     closing_ = true;
     desktop_.YieldOnce();
-    Win95Shrivel(window_.Window);
+    Win95Shrivel(window_);
     desktop_.YieldOnce();
     desktop_.End();
 }

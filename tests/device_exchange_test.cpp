@@ -12,7 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 struct DeviceExchangeTest : testing::Test, VirtualScreen {
-    ScriptedPort port;
+    ScriptedPort port{time};
     DeviceExchange controller{port, desktop};
 
     void ExpectRecord(const std::string& record, const std::string& reply) {
@@ -71,6 +71,15 @@ TEST_F(DeviceExchangeTest, SilenceEndsTheExchangeAfterThirtySecondsFromTheLastBy
     EXPECT_FALSE(controller.SendDataLine(":00"));
     EXPECT_GE(desktop.Now() - second, 59s);
     EXPECT_LT(desktop.Now() - second, 60s);
+}
+
+TEST_F(DeviceExchangeTest, AYieldThatTheTechnicianHoldsUpIsNoSilence) {
+    bool held = false;
+    desktop.OnYield = [&] {
+        if (!std::exchange(held, true)) time.Now += 40s;
+    };
+    port.ExpectDiscardStep().Expect("WriteText :00").Expect("ReadByte", -1).ExpectReads(":00.\n");
+    EXPECT_TRUE(controller.SendDataLine(":00"));
 }
 
 TEST_F(DeviceExchangeTest, BabbleAndALostLineEndTheExchangeUnlessTheReplyIsComplete) {

@@ -96,7 +96,7 @@ TEST_P(EveryFault, AtEveryExchangeStopsTheRunWhereItStandsAndASecondRunCompletes
         EXPECT_EQ(k == 4 ? window.ProgressBar1.Value.Get() : 0, 0);
         EXPECT_EQ(faulty.rig.port.Sent.size(), static_cast<std::size_t>(before + k));
         faulty.device.ClearFaults();
-        faulty.rig.desktop.Clock += std::chrono::seconds(1);
+        faulty.rig.time.Now += std::chrono::seconds(1);
         faulty.Update();
         EXPECT_TRUE(faulty.rig.Completed());
     }
@@ -125,6 +125,26 @@ TEST(Faults, ALostLineEndsTheExchangeAtOnceAndIsFoundAgainByTheNextRun) {
     faulty.Update();
     EXPECT_EQ(PageOf(faulty.rig.window), ExpectedStop(10));  // still unplugged: nothing changes
     faulty.device.ClearFaults();
+    faulty.Update();
+    EXPECT_TRUE(faulty.rig.Completed());
+}
+
+// The adapter comes loose in the pause behind the erase, and another controller hangs on it when it
+// is back: that one has not been erased.
+TEST(Faults, AControllerThatComesIntoTheMidstOfAnUpdateIsNotProgrammed) {
+    const TemporaryFile file(kSmallFile);
+    FaultyRig faulty;
+    faulty.rig.ReachProgramPage(file.Path());
+    bool swapped = false;
+    faulty.rig.desktop.OnYield = [&] {
+        const std::string& stage = faulty.rig.window.lblPrgm.Caption;
+        if (stage != "All Blocks Erased" || std::exchange(swapped, true)) return;
+        faulty.device.HangUp();
+        faulty.loader = Loader();
+    };
+    faulty.Update();
+    EXPECT_EQ(PageOf(faulty.rig.window), ExpectedStop(8));
+    EXPECT_TRUE(faulty.loader.ObeyedRecords().empty());
     faulty.Update();
     EXPECT_TRUE(faulty.rig.Completed());
 }

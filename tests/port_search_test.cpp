@@ -10,11 +10,10 @@ namespace keplin::test {
 namespace {
 
 struct PortSearchTest : testing::Test, VirtualScreen {
-    ScriptedPort port;
+    ScriptedPort port{time, &trace};
     DeviceExchange controller{port, desktop};
     PortSearch search{window, port, controller, desktop};
-
-    PortSearchTest() { window.Observe(&trace); }
+    Observation observing{window, trace};
 
     ScriptedPort& ExpectOpen(int number, int status) {
         port.Expect("LineSpeed 38400").Expect("Setting3 0");

@@ -5,7 +5,6 @@
 #include <QHelpEvent>
 #include <QProgressBar>
 #include <QScreen>
-#include <QTemporaryDir>
 #include <QToolTip>
 
 #include "tests/support/text_fit.h"
@@ -48,7 +47,7 @@ TEST_F(QtWindow, FollowsTheModel) {
     EXPECT_FALSE(Find(model.PicSetup)->isVisible());
     Show(model.PicSetup);
     EXPECT_TRUE(Find(model.cmdPortTest)->isVisible());
-    model.Window.WindowState = Form::State::Minimised;
+    model.WindowState = Form::State::Minimised;
     EXPECT_TRUE(window.isMinimized());
 }
 
@@ -121,7 +120,7 @@ TEST_F(QtWindow, WhileAPressIsAtWorkALostFocusPressesNothing) {
 TEST_F(QtWindow, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
     int presses = 0;
     model.Command1.OnClick = [&] { ++presses; };
-    model.Window.OnCloseRequest = [&] { ++presses; };
+    model.OnCloseRequest = [&] { ++presses; };
     const auto pressInEachWay = [&] {
         Type(Qt::Key_Return);
         Type(Qt::Key_Space);
@@ -153,7 +152,7 @@ TEST_F(QtWindow, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
 
 TEST_F(QtWindow, AskedToCloseItAsksTheModel) {
     int requests = 0;
-    model.Window.OnCloseRequest = [&] { ++requests; };
+    model.OnCloseRequest = [&] { ++requests; };
     EXPECT_FALSE(window.close());
     QEvent logout(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &logout);
@@ -235,15 +234,3 @@ TEST_F(QtWindow, AScreenReaderFindsANameOnEveryControl) {
 
 }  // namespace
 }  // namespace keplin::test
-
-// No settings but its own, and the screen of that name among those of the tests.
-int main(int argc, char** argv) {
-    const QTemporaryDir settings;
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
-    const QString screen = qEnvironmentVariable("SCREEN", "2600x1800");
-    qputenv("QT_QPA_PLATFORM",
-            "offscreen:configfile=" KEPLIN_SCREENS "/" + screen.toUtf8() + ".json");
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

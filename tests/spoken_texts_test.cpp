@@ -14,7 +14,6 @@ namespace {
 class Ear : public Observer {
   public:
     explicit Ear(Rig& rig) : rig_(rig) {
-        rig.window.Observe(this);
         rig.desktop.OnYield = [this] { Listen(); };
     }
 
@@ -40,6 +39,7 @@ class Ear : public Observer {
     Rig& rig_;
     SpokenTexts texts_{rig_.window};
     std::string heard_;
+    Observation listening_{rig_.window, *this};
 };
 
 TEST(SpokenTexts, AreEachResultOnceAndInItsOrder) {

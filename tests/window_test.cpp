@@ -9,13 +9,13 @@ namespace {
 
 TEST(Window, NothingElseCanBeStartedDuringAPortTest) {
     Rig rig;
-    EXPECT_EQ(rig.window.Window.ClientHeight(), 5145);
+    EXPECT_EQ(rig.window.ClientHeight(), 5145);
     EXPECT_FALSE(rig.window.Timer1.Enabled);
     rig.window.Next_1.Press();
     rig.desktop.OnYield = [&] {
         EXPECT_FALSE(rig.window.cmdPortTest.Enabled || rig.window.cmdExit.Enabled);
         rig.window.cmdPortTest.Press();
-        rig.window.Window.RequestClose();
+        rig.window.RequestClose();
     };
     rig.window.cmdPortTest.Press();
     EXPECT_TRUE(rig.window.Next_2.CanBePressed());
@@ -48,10 +48,29 @@ TEST(Window, ClosingMinimisesAndEndsTheProgramAndNothingElseStarts) {
             rig.window.Next_1.Press();
             rig.window.cmdExit.Press();
         };
-        EXPECT_THROW(byTitleBar ? rig.window.Window.RequestClose() : rig.window.cmdExit.Press(),
+        EXPECT_THROW(byTitleBar ? rig.window.RequestClose() : rig.window.cmdExit.Press(),
                      ProgramEnded);
         EXPECT_EQ(rig.trace.Take(), "Yield\nISPMain.WindowState = Minimised\nYield\nEnd\n");
     }
+}
+
+TEST(Window, TellsItsObserversInTheOrderInWhichTheyCame) {
+    struct Witness : Observer {
+        Witness(std::string& told, char name) : told_(told), name_(name) {}
+        void Changed(const Control&, Aspect) override { told_ += name_; }
+        std::string& told_;
+        char name_;
+    };
+    ISPMain window;
+    std::string told;
+    Witness a(told, 'a'), b(told, 'b');
+    std::optional<Observation> first(std::in_place, window, a);
+    const Observation second(window, b);
+    window.cmdExit.Enabled = false;
+    first.reset();
+    window.cmdExit.Enabled = true;
+    window.cmdExit.Enabled = true;
+    EXPECT_EQ(told, "abb");
 }
 
 TEST(Activity, TheBlockTurnsAtTheEndsOfItsTrack) {

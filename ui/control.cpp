@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include "ui/form.h"
+
 namespace keplin {
 
-Control::Control(ControlList& list, const Control* container, std::string name, Place place)
+Control::Control(Form& form, const Control* container, std::string name, Place place)
     : Name(std::move(name)),
       Container(container),
       Width(place.width),
@@ -13,8 +15,8 @@ Control::Control(ControlList& list, const Control* container, std::string name, 
       Left(*this, Aspect::Left, place.left),
       Top(*this, Aspect::Top, place.top),
       Height(*this, Aspect::Height, place.height),
-      list_(list) {
-    list.controls_.push_back(this);
+      form_(form) {
+    if (this != &form) form.controls_.push_back(this);
 }
 
 bool Control::Shown() const {
@@ -22,7 +24,8 @@ bool Control::Shown() const {
 }
 
 void TellObserver(const Control& owner, Aspect aspect) {
-    if (Observer* observer = owner.list_.observer_) observer->Changed(owner, aspect);
+    for (Observer* observer : owner.form_.observers_)
+        observer->Changed(owner, aspect);
 }
 
 }  // namespace keplin

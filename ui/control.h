@@ -1,15 +1,15 @@
-// What every control of the window has, and the list in which the window keeps them.
+// What every control of the window has, and the window itself.
 #pragma once
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "ui/property.h"
 
 namespace keplin {
 
 class ControlVisitor;
+class Form;
 
 // Twips: 1440 to the inch, 15 to a pixel at 96 dpi. Measured from the top-left corner of the
 // control's container: the window's client area, a page, or a frame.
@@ -27,30 +27,11 @@ struct Colour {
     friend bool operator==(const Colour&, const Colour&) = default;
 };
 
-// The controls of one window in the order of their making (a later one lies above an earlier one),
-// and the one observer that is told of their changes.
-class ControlList {
-  public:
-    ControlList() = default;
-    ControlList(const ControlList&) = delete;
-    ControlList& operator=(const ControlList&) = delete;
-
-    // The observer must outlive the list or be taken away with nullptr first.
-    void Observe(Observer* observer) { observer_ = observer; }
-    [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
-
-  private:
-    friend class Control;
-    friend void TellObserver(const Control& owner, Aspect aspect);
-
-    std::vector<Control*> controls_;
-    Observer* observer_ = nullptr;
-};
-
 class Control {
   public:
-    // `container` is nullptr for a control that stands directly on the window.
-    Control(ControlList& list, const Control* container, std::string name, Place place);
+    // The form keeps the control, unless it is itself, and must outlive it. `container` is nullptr
+    // for a control that stands directly on the form.
+    Control(Form& form, const Control* container, std::string name, Place place);
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -72,7 +53,7 @@ class Control {
 
   private:
     friend void TellObserver(const Control& owner, Aspect aspect);
-    ControlList& list_;
+    Form& form_;
 };
 
 }  // namespace keplin

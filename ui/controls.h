@@ -1,5 +1,5 @@
 // The kinds of control on the window, each as plain data with its events. A drawing creates one
-// widget for each and calls Press, Tick and RequestClose when the technician or a timer acts.
+// widget for each and calls Press and Tick when the technician or a timer acts.
 #pragma once
 
 #include <functional>
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/control.h"
+#include "ui/form.h"
 
 namespace keplin {
 
@@ -28,29 +28,10 @@ struct TextStyle {
     const char* description = "";
 };
 
-// The window itself. Height is its outer height, title bar and frame included.
-class Form : public Control {
-  public:
-    enum class State { Normal, Minimised };
-
-    Form(ControlList& list, std::string name, std::string title, float width, float height);
-    void Accept(ControlVisitor& visitor) const override;
-
-    // The height of the client area, which the frame leaves of the outer height.
-    [[nodiscard]] float ClientHeight() const;
-
-    // The technician asked the title bar to close the window.
-    void RequestClose() const;
-
-    Property<std::string> Caption;
-    Property<State> WindowState;
-    std::function<void()> OnCloseRequest;
-};
-
 // A plain container; one of them is shown at a time.
 class Page : public Control {
   public:
-    Page(ControlList& list, std::string name, Place place, Colour background);
+    Page(Form& form, std::string name, Place place, Colour background);
     void Accept(ControlVisitor& visitor) const override;
 
     const Colour Background;
@@ -59,8 +40,8 @@ class Page : public Control {
 // A container with a captioned outline.
 class Frame : public Control {
   public:
-    Frame(ControlList& list, const Control& page, std::string name, std::string caption,
-          Place place, Colour background);
+    Frame(Form& form, const Control& page, std::string name, std::string caption, Place place,
+          Colour background);
     void Accept(ControlVisitor& visitor) const override;
 
     const Colour Background;
@@ -70,8 +51,8 @@ class Frame : public Control {
 // A text that wraps within its width.
 class Label : public Control {
   public:
-    Label(ControlList& list, const Control* container, std::string name, std::string caption,
-          Place place, TextStyle style = {});
+    Label(Form& form, const Control* container, std::string name, std::string caption, Place place,
+          TextStyle style = {});
     void Accept(ControlVisitor& visitor) const override;
 
     const TextStyle Style;
@@ -82,8 +63,8 @@ class Label : public Control {
 class Button : public Control {
   public:
     // `tabIndex` is its place in the order in which the keyboard focus moves, from 0.
-    Button(ControlList& list, const Control* container, std::string name, std::string caption,
-           Place place, int tabIndex);
+    Button(Form& form, const Control* container, std::string name, std::string caption, Place place,
+           int tabIndex);
     void Accept(ControlVisitor& visitor) const override;
 
     // A technician can press it now: it is shown and enabled.
@@ -102,7 +83,7 @@ class Picture : public Control {
     enum class Image { Icon, GettingStarted };
 
     // `description` tells a screen reader what the picture shows.
-    Picture(ControlList& list, const Control* container, std::string name, Image image,
+    Picture(Form& form, const Control* container, std::string name, Image image,
             std::string description, Place place);
     void Accept(ControlVisitor& visitor) const override;
 
@@ -113,7 +94,7 @@ class Picture : public Control {
 // A rectangle: filled with a colour, or an outline one pixel wide in the text colour.
 class Shape : public Control {
   public:
-    Shape(ControlList& list, std::string name, Place place, std::optional<Colour> fill);
+    Shape(Form& form, std::string name, Place place, std::optional<Colour> fill);
     void Accept(ControlVisitor& visitor) const override;
 
     const std::optional<Colour> Fill;
@@ -127,8 +108,8 @@ class ProgressBar : public Control {
     enum class Unit { Percent, Lines };
 
     // `description` tells a screen reader what the bar measures.
-    ProgressBar(ControlList& list, const Control* container, std::string name,
-                std::string description, Place place);
+    ProgressBar(Form& form, const Control* container, std::string name, std::string description,
+                Place place);
     void Accept(ControlVisitor& visitor) const override;
 
     // The part of the range that is done, 0 to 1.
@@ -153,7 +134,7 @@ enum class PanelSizing {
 // One text panel of a status bar, with an inset bevel.
 class Panel : public Control {
   public:
-    Panel(ControlList& list, const Control& bar, std::string name, std::string description,
+    Panel(Form& form, const Control& bar, std::string name, std::string description,
           float minimumWidth, Alignment alignment, PanelSizing sizing);
     void Accept(ControlVisitor& visitor) const override;
 
@@ -168,7 +149,7 @@ class Panel : public Control {
 class StatusBar : public Control {
   public:
     // `aboveBottom` is the distance in twips from the client area's bottom edge to the bar's top.
-    StatusBar(ControlList& list, std::string name, Place place, float aboveBottom);
+    StatusBar(Form& form, std::string name, Place place, float aboveBottom);
     void Accept(ControlVisitor& visitor) const override;
 
     void Add(std::unique_ptr<Panel> panel);
@@ -184,7 +165,7 @@ class StatusBar : public Control {
 
 class Timer : public Control {
   public:
-    Timer(ControlList& list, std::string name, int interval);
+    Timer(Form& form, std::string name, int interval);
     void Accept(ControlVisitor& visitor) const override;
 
     // What the drawing calls each time the interval has passed; nothing while disabled.

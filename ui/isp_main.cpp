@@ -25,7 +25,7 @@ constexpr TextStyle kStage{.alignment = Alignment::Centre, .description = "Stage
 }  // namespace
 
 ISPMain::ISPMain()
-    : Window(*this, "ISPMain", "  Keplin For QDX-470", kWidth, kDesignHeight),
+    : Form("ISPMain", "  Keplin For QDX-470", kWidth, kDesignHeight),
       Label7(*this, nullptr, "Label7", "Velmora, Inc.", {120, 0, 9015, 375}, kMaker),
       Label8(*this, nullptr, "Label8", "QDX-470 ISP  (In System Programming)",
              {120, 240, 9015, 255}, kCentred),

@@ -16,11 +16,9 @@ inline constexpr float kShownPageTop = 840;
 // The window's outer height from the start on, in twips; below it lies only what is never shown.
 inline constexpr float kShownHeight = 5460;
 
-class ISPMain : public ControlList {
+class ISPMain : public Form {
   public:
     ISPMain();
-
-    Form Window;
 
     // Directly on the window.
     Label Label7;

@@ -29,7 +29,7 @@ class Observer {
     virtual void Changed(const Control& control, Aspect aspect) = 0;
 };
 
-// Hands a change of `owner` to the window's observer, if there is one.
+// Hands a change of `owner` to the window's observers.
 void TellObserver(const Control& owner, Aspect aspect);
 
 template <typename T>

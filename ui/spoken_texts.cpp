@@ -83,7 +83,7 @@ bool SpokenTexts::RunStopped() const {
 }
 
 bool SpokenTexts::CanBeRead(const Control& control) const {
-    return window_.Window.Visible && control.Shown() && !TextOf(control).Text.empty();
+    return window_.Visible && control.Shown() && !TextOf(control).Text.empty();
 }
 
 void SpokenTexts::Add(const Control& control) {

@@ -22,7 +22,7 @@ class RandomTechnician {
     explicit RandomTechnician(std::uint64_t seed)
         : random_(seed), device_(loader_, static_cast<std::uint32_t>(seed)), rig_(&device_) {
         rig_.trace.Recording = false;
-        rig_.desktop.Idle = std::chrono::milliseconds(40);
+        rig_.time.LongestWait = std::chrono::milliseconds(40);
         clickEvery_ = OneIn(3) ? 0 : static_cast<int>(3U << Below(9));
         rig_.desktop.OnYield = [this] { DuringYield(); };
     }
@@ -89,7 +89,7 @@ class RandomTechnician {
             Demand(rig_.window.Command1.CanBePressed(), "Update cannot be pressed after a stop");
         }
         if (OneIn(2)) device_.ClearFaults();
-        rig_.desktop.Clock += std::chrono::seconds(3);
+        rig_.time.Now += std::chrono::seconds(3);
     }
 
     // The completion page says that the controller holds the file.
@@ -199,7 +199,7 @@ class RandomTechnician {
         const bool leaving = choice == 0 || choice == buttons.size();
         if (leaving && !rig_.desktop.Awake && !OneIn(20)) return;  // most stay to the end
         if (choice == buttons.size()) {
-            window.Window.RequestClose();
+            window.RequestClose();
         } else {
             buttons[choice]->Press();
         }

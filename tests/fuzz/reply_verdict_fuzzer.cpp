@@ -11,7 +11,8 @@ namespace {
 // A line on which a fixed reply comes in and then nothing more.
 class FixedReply : public keplin::SerialPort {
   public:
-    explicit FixedReply(std::string_view reply) : reply_(reply) {}
+    FixedReply(std::string_view reply, keplin::test::VirtualTime& time)
+        : reply_(reply), time_(time) {}
 
     void PortNumber(std::int32_t) override {}
     void LineSpeed(std::int32_t) override {}
@@ -20,7 +21,9 @@ class FixedReply : public keplin::SerialPort {
     std::int32_t Open() override { return 1; }
     std::int32_t Close() override { return 0; }
     std::int32_t ReadByte() override {
-        return read_ < reply_.size() ? static_cast<std::uint8_t>(reply_[read_++]) : -1;
+        if (read_ < reply_.size()) return static_cast<std::uint8_t>(reply_[read_++]);
+        time_.ReadNothing();
+        return -1;
     }
     void WriteByte(std::uint8_t) override {}
     void DiscardInput() override {}
@@ -30,6 +33,7 @@ class FixedReply : public keplin::SerialPort {
 
   private:
     const std::string_view reply_;
+    keplin::test::VirtualTime& time_;
     std::size_t read_ = 0;
 };
 
@@ -59,8 +63,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     keplin::test::VirtualScreen screen;
     screen.trace.Recording = false;
-    screen.desktop.Idle = std::chrono::seconds(1);
-    FixedReply port(reply);
+    screen.time.LongestWait = std::chrono::seconds(1);
+    FixedReply port(reply, screen.time);
     keplin::DeviceExchange controller(port, screen.desktop);
     if (controller.SendDataLine(record) != Expected(record, reply)) std::abort();
     return 0;

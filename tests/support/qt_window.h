@@ -52,8 +52,8 @@ class QtWindow : public testing::Test {
             hidden->Visible = false;
         }
         ShowPage(model.PicGettingStarted);
-        model.Window.Height = 5460;
-        model.Window.Visible = true;
+        model.Height = 5460;
+        model.Visible = true;
         QCoreApplication::processEvents();
         LetButtonsBePressed();
     }

@@ -20,13 +20,9 @@ inline constexpr std::string_view kSmallFile =
 struct Rig : VirtualScreen {
     // `device` is what the wire ends at, in place of the rig's own loader.
     explicit Rig(simulator::DeviceEnd* device = nullptr)
-        : port(device != nullptr ? *device : loader, desktop) {
-        window.Observe(&trace);
+        : port(device != nullptr ? *device : loader, trace, time) {
         session.Main();
     }
-    ~Rig() { window.Observe(nullptr); }
-    Rig(const Rig&) = delete;
-    Rig& operator=(const Rig&) = delete;
 
     // As a technician would: to the setup page, the port test, the file, the programming page.
     void ReachProgramPage(const std::string& path) {
@@ -43,6 +39,7 @@ struct Rig : VirtualScreen {
     simulator::Loader loader;
     VirtualPort port;
     Session session{window, port, desktop};
+    Observation observing{window, trace};
 };
 
 }  // namespace keplin::test

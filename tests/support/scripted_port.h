@@ -10,11 +10,15 @@
 #include <utility>
 
 #include "device/serial_port.h"
+#include "tests/support/trace.h"
+#include "tests/support/virtual_time.h"
 
 namespace keplin::test {
 
 class ScriptedPort : public SerialPort {
   public:
+    // `trace`, where there is one, notes each member that is called.
+    explicit ScriptedPort(VirtualTime& time, Trace* trace = nullptr) : time_(time), trace_(trace) {}
     ~ScriptedPort() override { EXPECT_TRUE(script_.empty()) << "left: " << script_.front().first; }
 
     // The next member called must be `call`, and gives `result`.
@@ -40,7 +44,11 @@ class ScriptedPort : public SerialPort {
     void Setting47(std::int32_t value) override { Play("Setting47 " + std::to_string(value)); }
     std::int32_t Open() override { return Play("Open"); }
     std::int32_t Close() override { return Play("Close"); }
-    std::int32_t ReadByte() override { return Play("ReadByte"); }
+    std::int32_t ReadByte() override {
+        const std::int32_t byte = Play("ReadByte");
+        if (byte < 0) time_.ReadNothing();
+        return byte;
+    }
     void WriteByte(std::uint8_t byte) override { Play("WriteByte " + std::to_string(byte)); }
     void DiscardInput() override { Play("DiscardInput"); }
     void WriteText(std::string_view text) override { Play("WriteText " + std::string(text)); }
@@ -56,11 +64,14 @@ class ScriptedPort : public SerialPort {
                           << (script_.empty() ? "nothing more" : script_.front().first);
             return -1;
         }
+        if (trace_ != nullptr) trace_->Add(call);
         const auto result = script_.front().second;
         script_.pop_front();
         return result ? *result : throw PortError(call);
     }
 
+    VirtualTime& time_;
+    Trace* const trace_;
     // Each member, and what it gives: nothing when it fails.
     std::deque<std::pair<std::string, std::optional<std::int32_t>>> script_;
 };

@@ -2,17 +2,16 @@
 // the window processes its events happens in a yield.
 #pragma once
 
-#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "platform/desktop.h"
 #include "platform/path.h"
 #include "tests/support/trace.h"
+#include "tests/support/virtual_time.h"
 #include "ui/isp_main.h"
 
 namespace keplin::test {
@@ -20,31 +19,29 @@ namespace keplin::test {
 // Thrown in place of the end of the program.
 struct ProgramEnded {};
 
-using Microseconds = std::chrono::microseconds;
-
 class VirtualDesktop : public Desktop {
   public:
-    VirtualDesktop(ISPMain& window, Trace& trace) : window_(window), trace_(trace) {}
+    VirtualDesktop(ISPMain& window, Trace& trace, VirtualTime& time)
+        : window_(window), trace_(trace), time_(time) {}
 
     void YieldOnce() override {
         ++Yields;
         trace_.Add("Yield");
         if (OnYield) OnYield();
-        if (!NextArrival) Clock += Idle;
-        if (std::exchange(MayWait, false)) Clock = std::max(Clock, NextArrival());
-        if (Ticks && Clock >= nextTick_) {
-            nextTick_ = Clock + std::chrono::milliseconds(window_.Timer1.Interval);
+        time_.Wait();
+        if (Ticks && time_.Now >= nextTick_) {
+            nextTick_ = time_.Now + std::chrono::milliseconds(window_.Timer1.Interval);
             window_.Timer1.Tick();
         }
     }
 
     void Sleep(std::chrono::milliseconds duration) override {
         trace_.Add("Sleep " + std::to_string(duration.count()));
-        Clock += duration;
+        time_.Now += duration;
     }
 
     std::chrono::milliseconds Now() override {
-        return std::chrono::duration_cast<std::chrono::milliseconds>(Clock);
+        return std::chrono::duration_cast<std::chrono::milliseconds>(time_.Now);
     }
 
     std::optional<std::string> ShowOpen(const OpenFileRequest& request) override {
@@ -75,26 +72,20 @@ class VirtualDesktop : public Desktop {
         throw ProgramEnded{};
     }
 
-    // Something outside happened, a transmission for instance.
-    void Log(std::string line) { trace_.Add(std::move(line)); }
-
-    Microseconds Clock{0};
-    Microseconds Idle{2000};  // the longest that one yield waits while nothing happens
     long Yields = 0;
     bool Ticks = true;  // of the window's timer
     bool Awake = false;
     bool EndedBusy = false;   // the program ended although Close could not be pressed
     bool AwakeTwice = false;  // it was to be kept awake while it already was
-    bool MayWait = false;     // the last read gave nothing: the next yield waits for what comes
     bool FactsFail = false;
     bool AwakeFails = false;
-    std::optional<std::string> Answer;          // of the open-file dialog; none: cancelled
-    std::function<void()> OnYield;              // clicks, for instance
-    std::function<Microseconds()> NextArrival;  // when a yield that waits ends
+    std::optional<std::string> Answer;  // of the open-file dialog; none: cancelled
+    std::function<void()> OnYield;      // clicks, for instance
 
   private:
     ISPMain& window_;
     Trace& trace_;
+    VirtualTime& time_;
     Microseconds nextTick_{0};
 };
 
@@ -102,7 +93,8 @@ class VirtualDesktop : public Desktop {
 struct VirtualScreen {
     ISPMain window;
     Trace trace;
-    VirtualDesktop desktop{window, trace};
+    VirtualTime time;
+    VirtualDesktop desktop{window, trace, time};
 };
 
 }  // namespace keplin::test

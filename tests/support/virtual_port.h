@@ -9,7 +9,8 @@
 
 #include "device/serial_port.h"
 #include "simulator/wire.h"
-#include "tests/support/virtual_desktop.h"
+#include "tests/support/trace.h"
+#include "tests/support/virtual_time.h"
 
 namespace keplin::test {
 
@@ -18,16 +19,8 @@ class VirtualPort : public SerialPort {
     // The controller is plugged in at port 2; port 1 opens and is silent, 3 and 4 do not exist.
     static constexpr std::int32_t kControllerPort = 2;
 
-    VirtualPort(simulator::DeviceEnd& device, VirtualDesktop& desktop)
-        : wire_(device), desktop_(desktop) {
-        desktop.NextArrival = [this] {
-            const auto idle = desktop_.Clock + desktop_.Idle;
-            wire_.Advance(desktop_.Clock);
-            const auto event = wire_.NextEvent();
-            // Rounded up, so that what happens then has happened.
-            return event ? std::min(idle, std::chrono::ceil<Microseconds>(*event)) : idle;
-        };
-    }
+    VirtualPort(simulator::DeviceEnd& device, Trace& trace, VirtualTime& time)
+        : wire_(device), trace_(trace), time_(time) {}
 
     void PortNumber(std::int32_t number) override { number_ = number; }
     void LineSpeed(std::int32_t) override {}
@@ -44,17 +37,16 @@ class VirtualPort : public SerialPort {
     std::int32_t Close() override { return open_ = 0; }
 
     std::int32_t ReadByte() override {
-        desktop_.Log("ReadByte");
-        const auto byte =
-            Connected() && !LineLost() ? wire_.ReadAtHost(desktop_.Clock) : std::nullopt;
+        trace_.Add("ReadByte");
+        const auto byte = Connected() && !LineLost() ? wire_.ReadAtHost(time_.Now) : std::nullopt;
         lost_ = Connected() && wire_.HungUp();
-        desktop_.MayWait = !byte;
+        if (!byte) time_.ReadNothing(&wire_);
         return byte ? *byte : -1;
     }
     void WriteByte(std::uint8_t byte) override { Send(std::string(1, static_cast<char>(byte))); }
     void DiscardInput() override {
         if (!Connected()) return;
-        wire_.DropArrived(desktop_.Clock);
+        wire_.DropArrived(time_.Now);
         lost_ = wire_.HungUp();
     }
     void WriteText(std::string_view text) override { Send(std::string(text)); }
@@ -78,7 +70,7 @@ class VirtualPort : public SerialPort {
     [[nodiscard]] bool KeepsBytes() const { return !kept_.empty(); }
 
     // Lets what is still on the wire arrive, as far as it is due.
-    void Settle() { wire_.Advance(desktop_.Clock); }
+    void Settle() { wire_.Advance(time_.Now); }
 
     std::vector<std::string> Sent;  // every transmission to the controller, in order
 
@@ -87,7 +79,7 @@ class VirtualPort : public SerialPort {
 
     void Send(std::string text) {
         if (LineLost()) throw PortError("the line is lost");
-        desktop_.Log(text == "U" ? "WriteByte 85" : "WriteText " + text);
+        trace_.Add(text == "U" ? "WriteByte 85" : "WriteText " + text);
         if (!Connected()) return;
         std::string leaving = std::exchange(kept_, "") + text;
         if (Sent.size() == keptTransmission_) {
@@ -95,12 +87,13 @@ class VirtualPort : public SerialPort {
             leaving.resize(leaving.size() - kept_.size());
         }
         const auto* bytes = reinterpret_cast<const std::uint8_t*>(leaving.data());
-        wire_.HostSends({bytes, leaving.size()}, desktop_.Clock);
+        wire_.HostSends({bytes, leaving.size()}, time_.Now);
         Sent.push_back(std::move(text));
     }
 
     simulator::Wire wire_;
-    VirtualDesktop& desktop_;
+    Trace& trace_;
+    VirtualTime& time_;
     std::int32_t number_ = 0;
     std::int32_t open_ = 0;
     bool lost_ = false;

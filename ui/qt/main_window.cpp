@@ -37,9 +37,9 @@ double DotsPerInch(const QWidget& window, const Form& form) {
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     : QWidget(nullptr, kFrame),
       model_(model),
-      look_{model.Window, model.Controls(), Scale(DotsPerInch(*this, model.Window)), {}},
+      look_{model, model.Controls(), Scale(DotsPerInch(*this, model)), {}},
       focus_(*this),
-      guard_(model.Window, std::move(clock)),
+      guard_(model, std::move(clock)),
       speaker_(*this, model) {
     InstallAccessible();
     look_.font = ChooseFont(look_);
@@ -53,11 +53,7 @@ MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
         ApplyToWindow(aspect);
     focus_.AfterChange();
     guard_.AfterChange();
-    model.Observe(this);
-}
-
-MainWindow::~MainWindow() {
-    model_.Observe(nullptr);
+    following_.emplace(model, *this);
 }
 
 // Whether the window closes is the model's to decide. A request that waited for a pause to end, or
@@ -65,7 +61,7 @@ MainWindow::~MainWindow() {
 // way; it is not held up, and ends the program by itself where the model does not.
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (guard_.Takes(model_.cmdExit)) model_.Window.RequestClose();
+    if (guard_.Takes(model_.cmdExit)) model_.RequestClose();
 }
 
 void MainWindow::Changed(const Control& control, Aspect aspect) {
@@ -91,7 +87,7 @@ void MainWindow::CallForAttention() {
 }
 
 void MainWindow::Apply(const Control& control, Aspect aspect) {
-    if (&control == &model_.Window) {
+    if (&control == &model_) {
         ApplyToWindow(aspect);
         return;
     }
@@ -103,7 +99,7 @@ void MainWindow::Apply(const Control& control, Aspect aspect) {
 }
 
 void MainWindow::ApplyToWindow(Aspect aspect) {
-    const Form& form = model_.Window;
+    const Form& form = model_;
     if (aspect == Aspect::Caption) setWindowTitle(ToQt(form.Caption));
     if (aspect == Aspect::Height) ApplySize();
     if (aspect == Aspect::Visible && form.Visible) ShowCentred();
@@ -114,7 +110,7 @@ void MainWindow::ApplyToWindow(Aspect aspect) {
 }
 
 void MainWindow::ApplySize() {
-    const Form& form = model_.Window;
+    const Form& form = model_;
     setFixedSize(look_.scale.Pixels(form.Width), look_.scale.Pixels(form.ClientHeight()));
     for (const StatusBar* bar : {&model_.StatusBar1, &model_.StatusBar2})
         drawn_.at(bar)->Apply(Aspect::Top);  // they follow the bottom edge
@@ -123,7 +119,7 @@ void MainWindow::ApplySize() {
 // The frame's height is the model's word: the desktop tells its own only after the window is shown.
 void MainWindow::ShowCentred() {
     const QRect screenArea = screen()->availableGeometry();
-    QRect outer(0, 0, width(), look_.scale.Pixels(model_.Window.Height));
+    QRect outer(0, 0, width(), look_.scale.Pixels(model_.Height));
     outer.moveCenter(screenArea.center());
     move(outer.topLeft());
     show();

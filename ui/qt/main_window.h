@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <unordered_map>
 
 #include "ui/isp_main.h"
@@ -18,7 +19,6 @@ class MainWindow : public QWidget, public Observer {
     // visible. The model must outlive it. Needs a QApplication. `clock` tells since when a button
     // can be pressed.
     explicit MainWindow(ISPMain& model, PressGuard::Clock clock = std::chrono::steady_clock::now);
-    ~MainWindow() override;
 
     void Changed(const Control& control, Aspect aspect) override;
 
@@ -38,6 +38,7 @@ class MainWindow : public QWidget, public Observer {
     PressGuard guard_;
     Speaker speaker_;
     std::unordered_map<const Control*, Drawn*> drawn_;
+    std::optional<Observation> following_;
 };
 
 }  // namespace keplin::qt
