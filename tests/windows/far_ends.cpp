@@ -32,7 +32,7 @@ class Echo final : public simulator::DeviceEnd {
 }  // namespace
 }  // namespace keplin
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
     using namespace keplin;
     if (argc != 2) return 2;
     simulator::SilentDevice nobody;
@@ -52,4 +52,7 @@ int main(int argc, char** argv) {
         const auto cells = loader.Memory().Cells();
         return leftAlone || std::ranges::equal(cells, ImageOfFile(argv[1])) ? 0 : 1;
     });
+} catch (const std::exception& error) {
+    std::cerr << "keplin-far-ends: " << error.what() << "\n";
+    return 2;
 }
