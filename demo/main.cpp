@@ -10,9 +10,9 @@
 #include <optional>
 #include <string>
 
-#include "app/application.h"
-#include "app/manual_key.h"
-#include "app/program.h"
+#include "app/qt/application.h"
+#include "app/qt/manual_key.h"
+#include "app/qt/program.h"
 #include "demo/change_printer.h"
 #include "demo/controller.h"
 #include "demo/file_image.h"
@@ -48,8 +48,8 @@ class Demonstration {
     }
 
   private:
-    qt::QtDesktop::Hooks Hooks() {
-        qt::QtDesktop::Hooks hooks;
+    StandardDesktop::Hooks Hooks() {
+        StandardDesktop::Hooks hooks;
         if (options_.walk) {
             hooks.openFile = [this](const OpenFileRequest&) { return options_.file; };
         }
