@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "device/device_paths.h"
+#include "device/serial_port.h"
 #include "platform/standard_desktop.h"
 #include "session/session.h"
 #include "ui/isp_main.h"
@@ -24,9 +24,10 @@ inline StandardDesktop::Hooks ClosingFirst(SerialPort& port, StandardDesktop::Ho
 // looks after the port's line.
 template <typename Port, typename Drawing, typename DesktopOfDrawing>
 struct ProgramOf {
-    // The port is closed before the program ends.
-    ProgramOf(DevicePaths ports, StandardDesktop::Hooks hooks)
-        : port(std::move(ports)),
+    // `ports` is what the port is made of. It is closed before the program ends.
+    template <typename Ports>
+    ProgramOf(Ports&& ports, StandardDesktop::Hooks hooks)
+        : port(std::forward<Ports>(ports)),
           drawing(window),
           desktop(drawing, port, ClosingFirst(port, std::move(hooks))),
           session(window, port, desktop) {}
