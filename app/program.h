@@ -2,26 +2,42 @@
 // and the session.
 #pragma once
 
-#include "device/posix/posix_port.h"
+#include <utility>
+
+#include "device/serial_port.h"
+#include "platform/standard_desktop.h"
 #include "session/session.h"
 #include "ui/isp_main.h"
-#include "ui/qt/main_window.h"
-#include "ui/qt/qt_desktop.h"
 
 namespace keplin {
 
-struct Program {
-    // Needs a QApplication. The hooks that have to do with the line become those of the port, and
-    // the port is closed before the program ends.
-    Program(DevicePaths ports, qt::QtDesktop::Hooks hooks);
-    ~Program();
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
+// Left to the end of the process, a port with unsent bytes could hold that up for half a minute.
+inline StandardDesktop::Hooks ClosingFirst(SerialPort& port, StandardDesktop::Hooks hooks) {
+    hooks.beforeEnd = [&port, end = std::move(hooks.beforeEnd)] {
+        port.Close();
+        return end ? end() : 0;
+    };
+    return hooks;
+}
+
+// With the port of one system, the drawing of one toolkit and what that makes of the desktop, which
+// looks after the port's line.
+template <typename Port, typename Drawing, typename DesktopOfDrawing>
+struct ProgramOf {
+    // `ports` is what the port is made of. It is closed before the program ends.
+    template <typename Ports>
+    ProgramOf(Ports&& ports, StandardDesktop::Hooks hooks)
+        : port(std::forward<Ports>(ports)),
+          drawing(window),
+          desktop(drawing, port, ClosingFirst(port, std::move(hooks))),
+          session(window, port, desktop) {}
+    ProgramOf(const ProgramOf&) = delete;
+    ProgramOf& operator=(const ProgramOf&) = delete;
 
     ISPMain window;
-    PosixPort port;
-    qt::MainWindow drawing;
-    qt::QtDesktop desktop;
+    Port port;
+    Drawing drawing;
+    DesktopOfDrawing desktop;
     Session session;
 };
 

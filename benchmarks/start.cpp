@@ -1,5 +1,5 @@
 // keplin-bench-start: the program up to its first page.
-#include "app/program.h"
+#include "app/qt/program.h"
 #include "benchmarks/painted.h"
 #include "device/posix/port_list.h"
 

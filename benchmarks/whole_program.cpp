@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "app/program.h"
+#include "app/qt/program.h"
 #include "benchmarks/first_paint.h"
 #include "benchmarks/timed_doors.h"
 
@@ -64,8 +64,8 @@ class Measurement {
     }
 
   private:
-    qt::QtDesktop::Hooks Hooks() {
-        qt::QtDesktop::Hooks hooks;
+    StandardDesktop::Hooks Hooks() {
+        StandardDesktop::Hooks hooks;
         hooks.openFile = [this](const OpenFileRequest&) {
             chosen_ = Now();
             return file_;

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "platform/path.h"
 #include "update/line_reader.h"
 
 namespace keplin {
@@ -30,7 +31,7 @@ void Place(const std::string& record, std::vector<std::uint8_t>& image) {
 
 std::vector<std::uint8_t> ImageOfFile(const std::string& path) try {
     std::vector<std::uint8_t> image(kMemorySize, 0xFF);
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(ToPath(path), std::ios::binary);
     LineReader reader(file);
     while (!reader.AtEnd()) {
         Place(std::string(reader.ReadLine()), image);

@@ -1,25 +1,24 @@
 // keplin-demo: the whole program with a simulated controller plugged in.
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include <QAbstractButton>
+#include <QPixmap>
 #include <QTimer>
-#include <algorithm>
-#include <fstream>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
 
-#include "app/application.h"
-#include "app/manual_key.h"
-#include "app/program.h"
+#include "app/qt/application.h"
+#include "app/qt/manual_key.h"
+#include "app/qt/program.h"
 #include "demo/change_printer.h"
 #include "demo/controller.h"
-#include "demo/file_image.h"
 #include "demo/mark.h"
 #include "demo/options.h"
+#include "demo/outcome.h"
 #include "demo/stage_pictures.h"
 #include "demo/walk.h"
+#include "platform/path.h"
 
 namespace keplin {
 namespace {
@@ -31,14 +30,19 @@ class Demonstration {
           controller_(std::make_unique<DemoController>(options_.port, options_.faults)),
           program_([this] { return controller_->DevicePaths(); }, Hooks()),
           ribbon_(MarkAsDemonstration(program_.drawing)),
-          pictures_(program_.window, program_.drawing, ribbon_, options_.pictures),
-          walk_(program_.window, program_.drawing, pictures_, options_.again) {
+          pictures_(
+              program_.window, [this](const std::string& path) { return SaveWindow(path); },
+              options_.pictures),
+          walk_(
+              program_.window, [this](const Button& button) { Press(button); }, pictures_,
+              options_.again) {
         OpenManualOnF1(program_.drawing);
     }
 
     int Run() {
         // The open-file dialog starts here.
-        QDir::setCurrent(QFileInfo(QFile::decodeName(options_.file.c_str())).absolutePath());
+        std::error_code gone;
+        std::filesystem::current_path(ToPath(options_.file).parent_path(), gone);
         if (options_.walk) {
             printer_.emplace(program_.window);
             QTimer::singleShot(0, [this] { walk_.Go(); });
@@ -48,8 +52,8 @@ class Demonstration {
     }
 
   private:
-    qt::QtDesktop::Hooks Hooks() {
-        qt::QtDesktop::Hooks hooks;
+    StandardDesktop::Hooks Hooks() {
+        StandardDesktop::Hooks hooks;
         if (options_.walk) {
             hooks.openFile = [this](const OpenFileRequest&) { return options_.file; };
         }
@@ -61,41 +65,19 @@ class Demonstration {
     int End() {
         const DemoController::Memory memory = controller_->ReadMemory();
         controller_.reset();  // the line hangs up before anything else ends
-        if (!Save(memory)) return 1;
-        return options_.walk ? Judge(memory) : 0;
+        return EndOfDemo(options_, program_.window.UpdateComplete(), memory);
     }
 
-    bool Save(const DemoController::Memory& memory) const {
-        if (options_.memory.empty()) return true;
-        std::ofstream file(options_.memory, std::ios::binary | std::ios::trunc);
-        file.write(reinterpret_cast<const char*>(memory.data()),
-                   static_cast<std::streamsize>(memory.size()));
-        file.close();
-        if (!file) std::cerr << "keplin-demo: cannot write " << options_.memory << "\n";
-        return !file.fail();
+    void Press(const Button& button) {
+        const QString name = QString::fromStdString(button.Name);
+        program_.drawing.findChild<QAbstractButton*>(name)->click();
     }
 
-    int Judge(const DemoController::Memory& memory) const {
-        const std::string complaint = Complaint(memory);
-        std::cout << (complaint.empty() ? "The update is complete, and the controller's memory "
-                                          "holds exactly the file's data."
-                                        : complaint)
-                  << std::endl;
-        return complaint.empty() ? 0 : 1;
-    }
-
-    // What is wrong after a walk, or nothing.
-    std::string Complaint(const DemoController::Memory& memory) const {
-        if (!program_.window.UpdateComplete()) return "The completion page was not reached.";
-        const DemoController::Memory image = ImageOfFile(options_.file);
-        if (image.empty()) {
-            return "The completion page stands, but what the file describes is no memory.";
-        }
-        const auto different = std::mismatch(memory.begin(), memory.end(), image.begin()).first;
-        if (different == memory.end()) return "";
-        return "The completion page stands, but the controller's memory differs from the file at "
-               "address " +
-               std::to_string(different - memory.begin()) + ".";
+    bool SaveWindow(const std::string& path) {
+        ribbon_.hide();
+        const QPixmap picture = program_.drawing.grab();
+        ribbon_.show();
+        return picture.save(QString::fromStdString(path), "PNG");
     }
 
     DemoOptions options_;
@@ -107,12 +89,20 @@ class Demonstration {
     std::optional<ChangePrinter> printer_;
 };
 
+// The installed programs and those of a build find the sample in the same place beside them.
+std::string SampleFile(const char* program) {
+    std::error_code failed;
+    std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", failed);
+    if (failed) self = program;
+    return FromPath(self.parent_path() / "../share/keplin/QDX-470-sample.HEX");
+}
+
 }  // namespace
 }  // namespace keplin
 
 int main(int argc, char** argv) {
     int exitCode = 0;
-    auto options = keplin::ReadDemoOptions(argc, argv, exitCode);
+    auto options = keplin::ReadDemoOptions(argc, argv, keplin::SampleFile(argv[0]), exitCode);
     if (!options) return exitCode;
     const auto application = keplin::OpenDisplay(argc, argv, "keplin-demo");
     try {

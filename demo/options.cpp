@@ -1,13 +1,14 @@
 #include "demo/options.h"
 
-#include <QCommandLineParser>
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include <getopt.h>
+
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <stdexcept>
+
+#include "platform/path.h"
 
 namespace keplin {
 namespace {
@@ -17,65 +18,76 @@ struct WrongOption : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// The installed programs and those of a build find the sample in the same place beside them.
-QString SampleFile(const char* program) {
-    const QFileInfo self(QFile::exists("/proc/self/exe") ? QFile::symLinkTarget("/proc/self/exe")
-                                                         : QFile::decodeName(program));
-    return self.dir().filePath("../share/keplin/QDX-470-sample.HEX");
+constexpr const char* kHelp =
+    R"(Usage: keplin-demo [options]
+The QDX-470 update program with a simulated controller plugged in as port 2.
+Port 1 opens and is silent; ports 3 and 4 do not exist. Nothing is sent to a real one.
+
+Options:
+  -h, --help        Show this help.
+  -v, --version     Show the version.
+  --walk            Press the buttons as a technician would, and print every
+                    change of the window.
+  --again           With --walk: try a second time after a step that failed.
+  --port <PORT>     Plug the controller in as port 1 or 2; the other one is
+                    silent.
+  --file <PATH>     The update file (default: the sample).
+  --memory <PATH>   Write the controller's 64 KiB of memory as they are at the
+                    end.
+  --pictures <DIR>  With --walk: save a picture of the window at each stage.
+  --fault <NAME@K>  Let exchange K fail, or all from K on (K+); --fault help
+                    lists the faults.
+)";
+
+enum Option : int { kWalk = 1, kAgain, kPort, kFile, kMemory, kPictures, kFault };
+
+constexpr option kOptions[] = {
+    {"help", no_argument, nullptr, 'h'},
+    {"version", no_argument, nullptr, 'v'},
+    {"walk", no_argument, nullptr, kWalk},
+    {"again", no_argument, nullptr, kAgain},
+    {"port", required_argument, nullptr, kPort},
+    {"file", required_argument, nullptr, kFile},
+    {"memory", required_argument, nullptr, kMemory},
+    {"pictures", required_argument, nullptr, kPictures},
+    {"fault", required_argument, nullptr, kFault},
+    {},
+};
+
+std::string FullPath(const std::string& path) {
+    return FromPath(std::filesystem::absolute(ToPath(path)).lexically_normal());
 }
 
-std::string FullPath(const QString& path) {
-    return QFile::encodeName(QDir::cleanPath(QFileInfo(path).absoluteFilePath())).toStdString();
-}
-
-std::string ReadableFile(const QString& path) {
-    if (!QFileInfo(path).isFile() || !QFile(path).open(QFile::ReadOnly)) {
+std::string ReadableFile(const std::string& path) {
+    const std::filesystem::path file = ToPath(path);
+    if (!std::filesystem::is_regular_file(file) || !std::ifstream(file).is_open())
         throw WrongOption("cannot read the update file: " + FullPath(path));
-    }
     return FullPath(path);
 }
 
-std::string WritableFile(const QString& path) {
-    if (!QFile(path).open(QFile::Append)) {
+std::string WritableFile(const std::string& path) {
+    if (!std::ofstream(ToPath(path), std::ios::app).is_open())
         throw WrongOption("cannot write the memory to: " + FullPath(path));
-    }
     return FullPath(path);
 }
 
-std::string WritableFolder(const QString& path) {
-    if (!QDir().mkpath(path) || !QFileInfo(path).isWritable()) {
+std::string MadeFolder(const std::string& path) {
+    std::error_code failed;
+    std::filesystem::create_directories(ToPath(path), failed);
+    if (!std::filesystem::is_directory(ToPath(path), failed))
         throw WrongOption("cannot write pictures to: " + FullPath(path));
-    }
     return FullPath(path);
 }
 
-simulator::FaultAt ReadFault(const QString& text) {
-    const auto fault = simulator::ParseFault(text.toStdString());
-    if (!fault) throw WrongOption("no such fault: " + text.toStdString() + " (see --fault help)");
+simulator::FaultAt ReadFault(const std::string& text) {
+    const auto fault = simulator::ParseFault(text);
+    if (!fault) throw WrongOption("no such fault: " + text + " (see --fault help)");
     return *fault;
 }
 
-std::int32_t ReadPort(const QString& text) {
-    if (text != "1" && text != "2") throw WrongOption("no such port: " + text.toStdString());
-    return text.toInt();
-}
-
-void AddOptions(QCommandLineParser& parser) {
-    parser.setApplicationDescription(
-        "The QDX-470 update program with a simulated controller plugged in as port 2.\n"
-        "Port 1 opens and is silent; ports 3 and 4 do not exist. Nothing is sent to a real one.");
-    parser.addOptions({
-        {{"h", "help"}, "Show this help."},
-        {{"v", "version"}, "Show the version."},
-        {"walk", "Press the buttons as a technician would, and print every change of the window."},
-        {"again", "With --walk: try a second time after a step that failed."},
-        {"port", "Plug the controller in as port 1 or 2; the other one is silent.", "PORT"},
-        {"file", "The update file (default: the sample).", "PATH"},
-        {"memory", "Write the controller's 64 KiB of memory as they are at the end.", "PATH"},
-        {"pictures", "With --walk: save a picture of the window at each stage.", "DIR"},
-        {"fault", "Let exchange K fail, or all from K on (K+); --fault help lists the faults.",
-         "NAME@K"},
-    });
+std::int32_t ReadPort(const std::string& text) {
+    if (text != "1" && text != "2") throw WrongOption("no such port: " + text);
+    return text == "1" ? 1 : 2;
 }
 
 void PrintFaults() {
@@ -87,51 +99,94 @@ void PrintFaults() {
     }
 }
 
-DemoOptions Read(const QCommandLineParser& parser, const char* program) {
+// What the command line says, before any of it is looked at.
+struct Given {
+    bool help = false;
+    bool version = false;
     DemoOptions options;
-    options.walk = parser.isSet("walk");
-    options.again = parser.isSet("again");
-    for (const char* option : {"again", "pictures"}) {
-        if (parser.isSet(option) && !options.walk) {
-            throw WrongOption("--" + std::string(option) + " goes with --walk");
-        }
+    std::string port = "2";
+    std::vector<std::string> faults;
+};
+
+void Take(int option, const char* value, Given& given) {
+    switch (option) {
+        case 'h':
+            given.help = true;
+            break;
+        case 'v':
+            given.version = true;
+            break;
+        case kWalk:
+            given.options.walk = true;
+            break;
+        case kAgain:
+            given.options.again = true;
+            break;
+        case kPort:
+            given.port = value;
+            break;
+        case kFile:
+            given.options.file = value;
+            break;
+        case kMemory:
+            given.options.memory = value;
+            break;
+        case kPictures:
+            given.options.pictures = value;
+            break;
+        default:
+            given.faults.emplace_back(value);
+            break;
     }
-    if (parser.isSet("port")) options.port = ReadPort(parser.value("port"));
-    for (const QString& text : parser.values("fault"))
+}
+
+Given Parse(int argc, char** argv) {
+    Given given;
+    opterr = 0;
+    for (int option = 0; (option = getopt_long(argc, argv, ":hv", kOptions, nullptr)) != -1;) {
+        const std::string text = argv[optind - 1];
+        if (option == '?') throw WrongOption("unknown option: " + text);
+        if (option == ':') throw WrongOption("something is to follow " + text);
+        Take(option, optarg, given);
+    }
+    if (optind < argc) throw WrongOption("unexpected: " + std::string(argv[optind]));
+    return given;
+}
+
+DemoOptions Check(const Given& given, const std::string& sample) {
+    DemoOptions options = given.options;
+    if (options.again && !options.walk) throw WrongOption("--again goes with --walk");
+    if (!options.pictures.empty() && !options.walk)
+        throw WrongOption("--pictures goes with --walk");
+    options.port = ReadPort(given.port);
+    for (const std::string& text : given.faults)
         options.faults.push_back(ReadFault(text));
-    options.file = ReadableFile(parser.isSet("file") ? parser.value("file") : SampleFile(program));
-    if (parser.isSet("memory")) options.memory = WritableFile(parser.value("memory"));
-    if (!options.memory.empty() && std::filesystem::equivalent(options.memory, options.file)) {
-        throw WrongOption("the memory would replace the update file: " + options.memory);
+    options.file = ReadableFile(options.file.empty() ? sample : options.file);
+    if (!options.memory.empty()) {
+        options.memory = WritableFile(options.memory);
+        if (std::filesystem::equivalent(ToPath(options.memory), ToPath(options.file)))
+            throw WrongOption("the memory would replace the update file: " + options.memory);
     }
-    if (parser.isSet("pictures")) options.pictures = WritableFolder(parser.value("pictures"));
+    if (!options.pictures.empty()) options.pictures = MadeFolder(options.pictures);
     return options;
 }
 
 }  // namespace
 
-std::optional<DemoOptions> ReadDemoOptions(int argc, char** argv, int& exitCode) {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments << QFile::decodeName(argv[i]);
-    QCommandLineParser parser;
-    AddOptions(parser);
+std::optional<DemoOptions> ReadDemoOptions(int argc, char** argv, const std::string& sample,
+                                           int& exitCode) {
     exitCode = 0;
     try {
-        if (!parser.parse(arguments)) throw WrongOption(parser.errorText().toStdString());
-        if (!parser.positionalArguments().isEmpty()) {
-            throw WrongOption("unexpected: " + parser.positionalArguments().first().toStdString());
-        }
-        if (parser.isSet("help")) {
-            // Qt knows the program's name only once there is an application.
-            std::cout
-                << parser.helpText().replace("<executable_name>", "keplin-demo").toStdString();
-        } else if (parser.isSet("version")) {
+        const Given given = Parse(argc, argv);
+        if (given.help) {
+            std::cout << kHelp;
+        } else if (given.version) {
             std::cout << "keplin-demo " KEPLIN_VERSION "\n";
-        } else if (parser.values("fault").contains("help")) {
+        } else if (std::find(given.faults.begin(), given.faults.end(), "help") !=
+                   given.faults.end()) {
             PrintFaults();
         } else {
-            return Read(parser, argv[0]);
+            return Check(given, sample);
         }
     } catch (const WrongOption& wrong) {
         std::cerr << "keplin-demo: " << wrong.what() << "\n";

@@ -20,8 +20,10 @@ struct DemoOptions {
     std::vector<simulator::FaultAt> faults;
 };
 
-// The options, or nothing when the program is to end at once with `exitCode`: 0 after --help
+// The options, with the update file `sample` where the command line names none; or nothing when the
+// program is to end at once with `exitCode`: 0 after --help
 // and the like, 2 after a wrong option or a file that cannot be used, which standard error names.
-std::optional<DemoOptions> ReadDemoOptions(int argc, char** argv, int& exitCode);
+std::optional<DemoOptions> ReadDemoOptions(int argc, char** argv, const std::string& sample,
+                                           int& exitCode);
 
 }  // namespace keplin

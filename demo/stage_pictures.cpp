@@ -1,7 +1,5 @@
 #include "demo/stage_pictures.h"
 
-#include <QPixmap>
-#include <QString>
 #include <cctype>
 #include <iostream>
 #include <utility>
@@ -23,22 +21,16 @@ std::string FileName(int number, std::string_view name) {
 
 }  // namespace
 
-StagePictures::StagePictures(ISPMain& window, QWidget& drawing, QWidget& ribbon, std::string folder)
+StagePictures::StagePictures(ISPMain& window, SaveWindow save, std::string folder)
     : window_(window),
-      drawing_(drawing),
-      ribbon_(ribbon),
+      save_(std::move(save)),
       folder_(std::move(folder)),
       observing_(window, *this) {}
 
 void StagePictures::Take(std::string_view name) {
     if (folder_.empty()) return;
     const std::string path = folder_ + "/" + FileName(++count_, name);
-    ribbon_.hide();
-    const QPixmap picture = drawing_.grab();
-    ribbon_.show();
-    if (!picture.save(QString::fromStdString(path), "PNG")) {
-        std::cerr << "keplin-demo: cannot write " << path << "\n";
-    }
+    if (!save_(path)) std::cerr << "keplin-demo: cannot write " << path << "\n";
 }
 
 void StagePictures::Changed(const Control& control, const PropertyBase& property) {

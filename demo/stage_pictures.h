@@ -1,7 +1,7 @@
 // Pictures of the window, one for each stage of an update, numbered in their order.
 #pragma once
 
-#include <QWidget>
+#include <functional>
 #include <string>
 
 #include "ui/isp_main.h"
@@ -10,9 +10,10 @@ namespace keplin {
 
 class StagePictures : public Observer {
   public:
-    // Saves into `folder`; an empty one: takes none. The pictures show the window as the product
-    // has it, without `ribbon`.
-    StagePictures(ISPMain& window, QWidget& drawing, QWidget& ribbon, std::string folder);
+    // `save` writes the window as the product has it, without the mark of the demonstration, to
+    // that file, as PNG; false: it could not. An empty `folder`: takes none.
+    using SaveWindow = std::function<bool(const std::string& path)>;
+    StagePictures(ISPMain& window, SaveWindow save, std::string folder);
 
     // Saves what the window shows now as NN-name.png; blanks and signs in the name become "-".
     void Take(std::string_view name);
@@ -23,8 +24,7 @@ class StagePictures : public Observer {
 
   private:
     const ISPMain& window_;
-    QWidget& drawing_;
-    QWidget& ribbon_;
+    const SaveWindow save_;
     const std::string folder_;
     int count_ = 0;
     bool middleTaken_ = false;

@@ -1,13 +1,13 @@
 #include "demo/walk.h"
 
-#include <QAbstractButton>
 #include <iostream>
 #include <string>
+#include <utility>
 
 namespace keplin {
 
-Walk::Walk(const ISPMain& window, QWidget& drawing, StagePictures& pictures, bool again)
-    : window_(window), drawing_(drawing), pictures_(pictures), again_(again) {}
+Walk::Walk(const ISPMain& window, PressButton press, StagePictures& pictures, bool again)
+    : window_(window), press_(std::move(press)), pictures_(pictures), again_(again) {}
 
 void Walk::Go() {
     ReachEnd();
@@ -42,7 +42,7 @@ void Walk::PressUntil(const Button& button, Done&& done) {
 
 void Walk::Press(const Button& button) {
     std::cout << "[press " << button.Caption.Get() << "]" << std::endl;
-    drawing_.findChild<QAbstractButton*>(QString::fromStdString(button.Name))->click();
+    press_(button);
 }
 
 void Walk::PrintStop() const {

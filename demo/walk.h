@@ -1,7 +1,7 @@
 // Walks through one update as a technician would, by pressing the buttons of the real window.
 #pragma once
 
-#include <QWidget>
+#include <functional>
 
 #include "demo/stage_pictures.h"
 #include "ui/isp_main.h"
@@ -10,8 +10,10 @@ namespace keplin {
 
 class Walk {
   public:
+    // `press` presses that button of the drawing, and returns when all that the press does is done.
     // `again`: a step that failed is tried a second time.
-    Walk(const ISPMain& window, QWidget& drawing, StagePictures& pictures, bool again);
+    using PressButton = std::function<void(const Button&)>;
+    Walk(const ISPMain& window, PressButton press, StagePictures& pictures, bool again);
 
     // From the getting-started page to the press on Finish or Close, which ends the program.
     void Go();
@@ -24,7 +26,7 @@ class Walk {
     void PrintStop() const;
 
     const ISPMain& window_;
-    QWidget& drawing_;
+    const PressButton press_;
     StagePictures& pictures_;
     const bool again_;
 };

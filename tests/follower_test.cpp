@@ -208,7 +208,8 @@ TEST_F(FollowerTest, WhatNobodyHeardIsNoNews) {
     model.cmdExit.Enabled = false;
     model.lblPrgm.Visible = true;
     drawing.Focus(&model.Command1);
-    EXPECT_EQ(drawing.asked + drawing.description, "cmdExit.Enabled\nlblPrgm.Visible\n");
+    EXPECT_EQ(drawing.asked.find("speak"), std::string::npos) << drawing.asked;
+    EXPECT_EQ(drawing.description, "");
     drawing.heard = true;
     model.cmdExit.Enabled = true;
     drawing.follower.Speak();

@@ -37,27 +37,26 @@ TEST_F(QtDesktopTest, TheTimerTicksWhileItIsEnabled) {
 }
 
 TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
-    std::array<int, 2> line{};
-    ASSERT_EQ(pipe(line.data()), 0);
-    bool awaited = false;
-    QtDesktop waiting(window, {.awaitsByte = [&] { return std::exchange(awaited, false); }});
-    waiting.WatchLine(line[0]);
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    line.OnLineChange(ends[0]);
     const auto fiftyYields = [&](bool wait) {
-        const auto start = waiting.Now();
+        const auto start = desktop.Now();
         for (int i = 0; i < 50; ++i) {
-            awaited = wait;
-            waiting.YieldOnce();
-            EXPECT_FALSE(awaited);
+            line.Idle = wait;
+            desktop.YieldOnce();
+            EXPECT_FALSE(line.Idle);
         }
-        return waiting.Now() - start;
+        return desktop.Now() - start;
     };
     const auto silent = fiftyYields(true);
     EXPECT_GE(silent, std::chrono::milliseconds(50));
     EXPECT_LT(silent, std::chrono::seconds(3));
     EXPECT_LT(fiftyYields(false), silent);
-    ASSERT_EQ(write(line[1], "x", 1), 1);
+    ASSERT_EQ(write(ends[1], "x", 1), 1);
     EXPECT_LT(fiftyYields(true), silent);
-    for (const int end : line)
+    line.OnLineChange(-1);
+    for (const int end : ends)
         close(end);
 }
 
@@ -165,8 +164,10 @@ TEST_F(QtDesktopTest, WhereTheWorkingDirectoryWasDeletedHomeStandsInForIt) {
 }
 
 TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
-    QtDesktop other(window, {.openFile = [](const auto& request) { return request.title; },
-                             .beforeEnd = [] { return 3; }});
+    TestLine none;
+    QtDesktop other(window, none,
+                    {.openFile = [](const auto& request) { return request.title; },
+                     .beforeEnd = [] { return 3; }});
     EXPECT_EQ(other.ShowOpen({"", "typed", "", false}), "typed");
     EXPECT_THROW(desktop.FileLength("/nowhere/to/be/found"), std::runtime_error);
     EXPECT_THROW(desktop.FileDateTime("/nowhere/to/be/found"), std::runtime_error);

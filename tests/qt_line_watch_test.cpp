@@ -4,7 +4,6 @@
 #include <QAbstractEventDispatcher>
 #include <QEventLoop>
 #include <QTimer>
-#include <optional>
 
 #include "tests/support/pseudo_terminal.h"
 #include "tests/support/qt_window.h"
@@ -17,10 +16,10 @@ using LineWatch = QtWindow;
 // A click may open a dialog in the midst of a wait, which then waits itself.
 TEST_F(LineWatch, AByteThatNobodyReadsKeepsNoLoopInsideAWaitBusy) {
     const PseudoTerminal far;
-    const UniqueFd line = OpenLine(far.Path());
+    const UniqueFd opened = OpenLine(far.Path());
     far.Send("U\n");
-    QtDesktop waiting(window, {.awaitsByte = [] { return true; }});
-    waiting.WatchLine(line.Get());
+    line.OnLineChange(opened.Get());
+    line.Idle = true;
     int rounds = 0;
     QTimer::singleShot(0, &window, [&] {
         QEventLoop dialog;
@@ -29,25 +28,24 @@ TEST_F(LineWatch, AByteThatNobodyReadsKeepsNoLoopInsideAWaitBusy) {
         QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, &dialog, [&] { ++rounds; });
         dialog.exec();
     });
-    waiting.YieldOnce();
+    desktop.YieldOnce();
+    line.OnLineChange(-1);
     EXPECT_GT(rounds, 0);
     EXPECT_LT(rounds, 50);
 }
 
 TEST_F(LineWatch, AHangUpIsToldOnceByTheEventLoopAloneAndNoUnreadByteIsTakenForOne) {
     PseudoTerminal far;
-    UniqueFd line = OpenLine(far.Path());
+    UniqueFd opened = OpenLine(far.Path());
     int told = 0;
-    std::optional<QtDesktop> atRest;
-    const auto hungUp = [&] {
+    line.OnCheck = [&] {
         ++told;
-        atRest->WatchLine(-1);
-        line.Reset();
+        line.OnLineChange(-1);
+        opened.Reset();
     };
-    atRest.emplace(window, QtDesktop::Hooks{.hungUp = hungUp});
-    atRest->WatchLine(line.Get());
+    line.OnLineChange(opened.Get());
     far.Send("noise\n");
-    ASSERT_TRUE(IsReadable(line.Get()));
+    ASSERT_TRUE(IsReadable(opened.Get()));
     QCoreApplication::processEvents();
     EXPECT_EQ(told, 0);
     far.HangUp();

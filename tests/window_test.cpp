@@ -2,6 +2,7 @@
 
 #include "tests/support/rig.h"
 #include "ui/activity.h"
+#include "ui/run_progress.h"
 
 namespace keplin::test {
 namespace {
@@ -18,6 +19,19 @@ TEST(Window, NothingElseCanBeStartedDuringAPortTest) {
     };
     rig.window.cmdPortTest.Press();
     EXPECT_TRUE(rig.window.Next_2.CanBePressed());
+}
+
+TEST(Window, TellsHowAnUpdateStands) {
+    using State = RunProgress::State;
+    ISPMain window;
+    EXPECT_EQ(RunProgressOf(window).state, State::None);
+    window.Visible = true;
+    window.ProgressBar1.Value = 33;
+    EXPECT_EQ(RunProgressOf(window), (RunProgress{State::Stopped, 33}));
+    window.cmdExit.Enabled = false;
+    EXPECT_EQ(RunProgressOf(window), (RunProgress{State::UnderWay, 33}));
+    window.PicProgram.Visible = false;
+    EXPECT_EQ(RunProgressOf(window), RunProgress{});
 }
 
 TEST(Window, AFailedSearchSaysSoAndLeavesNextAsItWas) {

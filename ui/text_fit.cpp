@@ -26,7 +26,8 @@ constexpr float kBorderAndRoom = 45;
 
 std::vector<std::string> Families(const TextMeasure& measure) {
     std::vector<std::string> families(kFamilies.begin(), kFamilies.end());
-    families.push_back(measure.OwnFamily());
+    const auto place = measure.OwnFamilyFirst() ? families.begin() : families.end();
+    families.insert(place, measure.OwnFamily());
     return families;
 }
 

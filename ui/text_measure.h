@@ -29,6 +29,8 @@ class TextMeasure {
 
     // The family in which the desktop writes by itself.
     [[nodiscard]] virtual std::string OwnFamily() const = 0;
+    // It is asked for before all others, and not after them.
+    [[nodiscard]] virtual bool OwnFamilyFirst() const { return false; }
 
     // The text broken between words into lines of at most that width; a word that is wider stands
     // alone on its line. For each line what it really blackens, from the top-left corner of the

@@ -7,7 +7,6 @@
 #include <termios.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -79,8 +78,7 @@ bool Configure(int line) {
            Agree(wanted, found);
 }
 
-UniqueFd OpenDevice(const std::string& path, std::int32_t bitsPerSecond) {
-    if (bitsPerSecond != kBitsPerSecond) return {};
+UniqueFd OpenDevice(const std::string& path) {
     // Without O_NONBLOCK the opening would wait for a carrier that a three-wire cable never shows.
     UniqueFd line{::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)};
     const bool usable =
@@ -92,12 +90,6 @@ bool IsPassing(int error) {
     return error == EAGAIN || error == EINTR;
 }
 
-// The path of a port, which is no longer among the paths then; empty where there is no such port.
-std::string TakeOut(std::vector<std::string>& paths, std::int32_t port) {
-    const auto index = static_cast<std::size_t>(port - 1);
-    return index < paths.size() ? std::exchange(paths[index], "") : "";
-}
-
 bool IsHungUp(int line) {
     pollfd state{.fd = line, .events = 0, .revents = 0};
     return poll(&state, 1, 0) == 1 && (state.revents & (POLLHUP | POLLERR)) != 0;
@@ -106,7 +98,7 @@ bool IsHungUp(int line) {
 }  // namespace
 
 PosixPort::PosixPort(DevicePaths devicePaths, std::filesystem::path lockFolder)
-    : devicePaths_(std::move(devicePaths)), lockFolder_(std::move(lockFolder)) {}
+    : paths_(std::move(devicePaths)), lockFolder_(std::move(lockFolder)) {}
 
 PosixPort::~PosixPort() {
     CloseLine();
@@ -114,15 +106,13 @@ PosixPort::~PosixPort() {
 
 std::int32_t PosixPort::Open() {
     Close();
-    otherPaths_ = devicePaths_();
-    path_ = TakeOut(otherPaths_, portNumber_);
-    speed_ = lineSpeed_;
-    return OpenLine() ? 1 : 0;
+    const std::string& path = paths_.Choose(portNumber_);
+    return lineSpeed_ == kBitsPerSecond && OpenLine(path) ? 1 : 0;
 }
 
-bool PosixPort::OpenLine() {
-    if (IsLockedByProcess(path_, lockFolder_)) return false;
-    line_ = OpenDevice(path_, speed_);
+bool PosixPort::OpenLine(const std::string& path) {
+    if (IsLockedByProcess(path, lockFolder_)) return false;
+    line_ = OpenDevice(path);
     if (!line_) return false;
     lost_ = false;
     idle_ = true;
@@ -216,21 +206,7 @@ void PosixPort::DiscardInput() {
 
 void PosixPort::ReopenLostLine() {
     DiscardInput();
-    if (!lost_) return;
-    path_ = PathNow();
-    OpenLine();
-}
-
-// The old path as long as it is there, else that of a port that has come since the Open. A port
-// that stood beside it then is another device.
-std::string PosixPort::PathNow() const {
-    if (std::filesystem::exists(path_)) return path_;
-    const auto now = devicePaths_();
-    const auto come = std::find_if(now.begin(), now.end(), [this](const std::string& path) {
-        return !path.empty() &&
-               std::find(otherPaths_.begin(), otherPaths_.end(), path) == otherPaths_.end();
-    });
-    return come == now.end() ? path_ : *come;
+    if (lost_) OpenLine(paths_.FindAgain());
 }
 
 }  // namespace keplin

@@ -4,18 +4,17 @@
 
 #include <chrono>
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <utility>
-#include <vector>
 
-#include "device/device_paths.h"
+#include "device/port_paths.h"
 #include "device/serial_port.h"
 #include "platform/posix/unique_fd.h"
+#include "platform/posix/watched_descriptor.h"
 
 namespace keplin {
 
-class PosixPort : public SerialPort {
+class PosixPort : public SerialPort, public WatchedDescriptor {
   public:
     // `devicePaths` is asked at each opening, so that a port plugged in meanwhile is found.
     // `lockFolder` is where terminal programs leave their lock files.
@@ -53,43 +52,26 @@ class PosixPort : public SerialPort {
     // Noticed by a read, a write, a discard or CheckLine; the line is let go of at once. Ends with
     // the next successful opening, or with Close.
     [[nodiscard]] bool LineLost() const override { return lost_; }
-    // Notices by itself that the line is gone. Drops what was received, as a discard does. Where
-    // the device's old path is gone too, the port that has come since the last Open is the one:
-    // an adapter may come back under another name.
+    // Notices by itself that the line is gone. Drops what was received, as a discard does.
     void ReopenLostLine() override;
 
-    // Notices a line that hung up while nobody uses it.
-    void CheckLine() noexcept;
-
-    // Called with the descriptor of each line that opens, and with -1 before it closes.
-    std::function<void(int descriptor)> OnLineChange;
-
-    // Whether to wait for the next byte before reading again: nothing was read since the last
-    // opening, discard or write, or the last read found nothing. Says so once for each read that
-    // finds nothing; the next ReadByte notices a line that hung up meanwhile.
-    [[nodiscard]] bool TakeIdle() { return std::exchange(idle_, false) && line_; }
+    [[nodiscard]] bool TakeIdle() override { return std::exchange(idle_, false) && line_; }
+    void CheckLine() noexcept override;
 
   private:
     using Moment = std::chrono::steady_clock::time_point;
 
-    bool OpenLine();
+    bool OpenLine(const std::string& path);
     void CloseLine() noexcept;
     void LoseLine() noexcept;
     void Write(std::string_view bytes);
     std::string_view WriteSome(std::string_view bytes);
     void AwaitRoom(Moment deadline);
 
-    [[nodiscard]] std::string PathNow() const;
-
-    const DevicePaths devicePaths_;
+    PortPaths paths_;
     const std::filesystem::path lockFolder_;
     std::int32_t portNumber_ = 0;
     std::int32_t lineSpeed_ = 0;
-
-    // The line opened last, as a lost one is to be opened again.
-    std::string path_;
-    std::int32_t speed_ = 0;
-    std::vector<std::string> otherPaths_;  // of all other ports at its Open
 
     UniqueFd line_;
     bool lost_ = false;

@@ -23,10 +23,8 @@ class MachineDesktop : public qt::QtDesktop {
     static constexpr Milliseconds kAnswerTime{50};
 
     MachineDesktop(QWidget& window, PosixPort& port)
-        : QtDesktop(window, {.awaitsByte = [&port] { return port.TakeIdle(); },
-                             .hungUp = [&port] { port.CheckLine(); },
-                             .openFile = [this](const auto&) { return File; }}) {
-        port.OnLineChange = [this](int line) { WatchLine(line_ = line); };
+        : QtDesktop(window, port, {.openFile = [this](const auto&) { return File; }}) {
+        port.OnLineChange = [this, watch = port.OnLineChange](int line) { watch(line_ = line); };
     }
 
     void Sleep(Milliseconds duration) override {
@@ -49,9 +47,6 @@ struct Program {
     explicit Program(DevicePaths ports = [] { return ComputerPorts(); }) : port(std::move(ports)) {
         session.Main();
     }
-    ~Program() { port.Close(); }
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
 
     // Whether a port was found.
     bool ReachProgramPage(const std::string& file) {

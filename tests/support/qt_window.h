@@ -18,6 +18,15 @@ namespace keplin::test {
 
 using qt::QtDesktop;
 
+// A line that is given by its descriptor alone.
+struct TestLine : WatchedDescriptor {
+    [[nodiscard]] bool TakeIdle() override { return std::exchange(Idle, false); }
+    void CheckLine() noexcept override { OnCheck(); }
+
+    bool Idle = false;
+    std::function<void()> OnCheck = [] {};
+};
+
 // Acts each time the widget is painted.
 class WhenPainted : public QObject {
   public:
@@ -125,7 +134,8 @@ class QtWindow : public testing::Test {
     ISPMain model;
     PressGuard::Moment now{};  // as the window counts, which passes over what came just now
     qt::MainWindow window{model, [this] { return now; }};
-    QtDesktop desktop{window, {}};
+    TestLine line;
+    QtDesktop desktop{window, line, {}};
 };
 
 }  // namespace keplin::test

@@ -1,7 +1,6 @@
 #include "ui/qt/line_watch.h"
 
 #include <QCoreApplication>
-#include <utility>
 
 namespace keplin::qt {
 namespace {
@@ -20,7 +19,8 @@ void Replace(std::unique_ptr<QSocketNotifier>& notifier, int descriptor,
 
 }  // namespace
 
-LineWatch::LineWatch(std::function<void()> hungUp) : hungUp_(std::move(hungUp)) {
+LineWatch::LineWatch(WatchedDescriptor& line) : line_(line) {
+    line.OnLineChange = [this](int descriptor) { Watch(descriptor); };
     limit_.setSingleShot(true);
     limit_.setTimerType(Qt::PreciseTimer);
     limit_.setInterval(kLimitMs);
@@ -33,12 +33,19 @@ void LineWatch::Watch(int descriptor) {
     byte_->setEnabled(false);
     QObject::connect(byte_.get(), &QSocketNotifier::activated, byte_.get(),
                      [byte = byte_.get()] { byte->setEnabled(false); });
-    QObject::connect(loss_.get(), &QSocketNotifier::activated, loss_.get(), [this] {
-        if (hungUp_) hungUp_();
-    });
+    QObject::connect(loss_.get(), &QSocketNotifier::activated, loss_.get(),
+                     [this] { line_.CheckLine(); });
 }
 
 void LineWatch::ProcessEvents() {
+    if (line_.TakeIdle()) {
+        AwaitByteOrEvent();
+    } else {
+        QCoreApplication::processEvents();
+    }
+}
+
+void LineWatch::AwaitByteOrEvent() {
     if (byte_) byte_->setEnabled(true);
     limit_.start();
     QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);

@@ -1,30 +1,33 @@
-// What the window's event loop does for the open serial line: it waits for a byte while an exchange
-// asks it to, and notices at any time that the line hung up.
+// What the window's event loop does for the open serial line: it waits for a byte while the line is
+// idle, and notices at any time that the line hung up.
 #pragma once
 
 #include <QSocketNotifier>
 #include <QTimer>
-#include <functional>
 #include <memory>
+
+#include "platform/posix/watched_descriptor.h"
 
 namespace keplin::qt {
 
 class LineWatch {
   public:
-    // `hungUp` is called from the event loop; it is to close the line.
-    explicit LineWatch(std::function<void()> hungUp);
+    // `line` must outlive the watch, which is told of each change of it.
+    explicit LineWatch(WatchedDescriptor& line);
+    ~LineWatch() { line_.OnLineChange = nullptr; }
+    LineWatch(const LineWatch&) = delete;
+    LineWatch& operator=(const LineWatch&) = delete;
 
-    // The descriptor of the line from now on, or -1 for none. A line is to be taken away before it
-    // is closed.
-    void Watch(int descriptor);
-
-    // Waits until a window event is there, or a byte to read from the line, 2 ms at most, and
-    // processes the window events that are pending then. Whatever these run inside it, the byte
-    // ends one wait only.
+    // Processes the window events that are pending. On an idle line it first waits until there is
+    // one, or a byte to read, 2 ms at most. Whatever the events run inside it, the byte ends one
+    // wait only.
     void ProcessEvents();
 
   private:
-    const std::function<void()> hungUp_;
+    void Watch(int descriptor);
+    void AwaitByteOrEvent();
+
+    WatchedDescriptor& line_;
     QTimer limit_;
     std::unique_ptr<QSocketNotifier> byte_;  // awake only while waiting
     std::unique_ptr<QSocketNotifier> loss_;

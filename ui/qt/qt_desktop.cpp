@@ -5,15 +5,9 @@
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 #include <QLocale>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <stdexcept>
 #include <string>
-#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -37,15 +31,11 @@ void ShowAllThatWasSet(QWidget& window) {
 
 }  // namespace
 
-QtDesktop::QtDesktop(QWidget& window, Hooks hooks)
-    : window_(window), hooks_(std::move(hooks)), line_(hooks_.hungUp) {}
+QtDesktop::QtDesktop(QWidget& window, WatchedDescriptor& line, Hooks hooks)
+    : StandardDesktop(std::move(hooks)), window_(window), line_(line) {}
 
 void QtDesktop::YieldOnce() {
-    if (hooks_.awaitsByte && hooks_.awaitsByte()) {
-        line_.ProcessEvents();
-    } else {
-        QCoreApplication::processEvents();
-    }
+    line_.ProcessEvents();
 }
 
 // An update sleeps once for each line of its file, so the lateness would add up: the end of a sleep
@@ -60,23 +50,8 @@ void QtDesktop::Sleep(std::chrono::milliseconds duration) {
     }
 }
 
-std::chrono::milliseconds QtDesktop::Now() {
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration_cast<std::chrono::milliseconds>(now);
-}
-
-std::optional<std::string> QtDesktop::ShowOpen(const OpenFileRequest& request) {
-    return hooks_.openFile ? hooks_.openFile(request) : AskForFile(window_, request);
-}
-
-std::string QtDesktop::CurrentDirectory() {
-    std::error_code deleted;
-    const auto path = std::filesystem::current_path(deleted);
-    return deleted ? QFile::encodeName(QDir::homePath()).toStdString() : path.string();
-}
-
-std::uint64_t QtDesktop::FileLength(const std::string& path) {
-    return std::filesystem::file_size(path);
+std::optional<std::string> QtDesktop::AskForFile(const OpenFileRequest& request) {
+    return qt::AskForFile(window_, request);
 }
 
 std::string QtDesktop::FileDateTime(const std::string& path) {
@@ -89,13 +64,6 @@ std::string QtDesktop::FileDateTime(const std::string& path) {
 
 void QtDesktop::KeepAwake(bool awake) {
     keepAwake_.Set(awake);
-}
-
-// Output that is still in a buffer goes out first; nothing else of the program runs any more.
-void QtDesktop::End() {
-    const int exitCode = hooks_.beforeEnd ? hooks_.beforeEnd() : 0;
-    std::fflush(nullptr);
-    std::_Exit(exitCode);
 }
 
 }  // namespace keplin::qt

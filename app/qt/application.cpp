@@ -1,4 +1,4 @@
-#include "app/application.h"
+#include "app/qt/application.h"
 
 #include <cstdlib>
 #include <iostream>

@@ -1,7 +1,7 @@
 // keplin: the program that a technician installs updates with, on the computer's serial ports.
-#include "app/application.h"
-#include "app/manual_key.h"
-#include "app/program.h"
+#include "app/qt/application.h"
+#include "app/qt/manual_key.h"
+#include "app/qt/program.h"
 #include "device/posix/port_list.h"
 
 int main(int argc, char** argv) {

@@ -1,4 +1,4 @@
-#include "app/manual_key.h"
+#include "app/qt/manual_key.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,0 +1,53 @@
+#include "device/win32/port_list.h"
+
+#include <windows.h>
+
+#include <array>
+#include <memory>
+
+#include "device/com_ports.h"
+
+namespace keplin {
+namespace {
+
+struct KeyCloser {
+    void operator()(HKEY key) const noexcept { RegCloseKey(key); }
+};
+using UniqueKey = std::unique_ptr<HKEY__, KeyCloser>;
+
+// One value for each device: its name is the driver's, its text the port's.
+UniqueKey OpenDeviceMap() {
+    HKEY key = nullptr;
+    RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"HARDWARE\\DEVICEMAP\\SERIALCOMM", 0, KEY_READ, &key);
+    return UniqueKey(key);
+}
+
+// The names that matter are ASCII.
+std::string Narrow(const wchar_t* text) {
+    std::string narrow;
+    for (; *text != L'\0'; ++text)
+        narrow += *text < 128 ? static_cast<char>(*text) : '?';
+    return narrow;
+}
+
+}  // namespace
+
+std::vector<std::string> ComputerPorts() {
+    std::vector<std::string> names;
+    const UniqueKey map = OpenDeviceMap();
+    for (DWORD i = 0; map; ++i) {
+        std::array<wchar_t, 256> device{};
+        std::array<wchar_t, 256> port{};
+        DWORD length = device.size();
+        DWORD bytes = sizeof port - sizeof(wchar_t);
+        DWORD type = 0;
+        const auto result = RegEnumValueW(map.get(), i, device.data(), &length, nullptr, &type,
+                                          reinterpret_cast<BYTE*>(port.data()), &bytes);
+        if (result == ERROR_MORE_DATA) continue;  // no port has so long a name
+        if (result != ERROR_SUCCESS) break;
+        if (type == REG_SZ) names.push_back(Narrow(port.data()));
+    }
+    return ByPortNumber(names);
+}
+
+}  // namespace keplin

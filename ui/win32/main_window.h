@@ -1,0 +1,71 @@
+// The window on the desktop: draws the model and hands back what the technician does.
+#pragma once
+
+#include "ui/win32/drawn.h"
+#include "ui/win32/taskbar_button.h"
+
+namespace keplin::win32 {
+
+class MainWindow final : public Drawing {
+  public:
+    // Draws the model as it stands and follows it from here on; hidden until the model's window is
+    // visible. The model must outlive it. `clock` tells since when a button can be pressed.
+    explicit MainWindow(ISPMain& model, PressGuard::Clock clock = std::chrono::steady_clock::now);
+    ~MainWindow() override;
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
+
+    [[nodiscard]] HWND Handle() const { return handle_; }
+    [[nodiscard]] HWND HandleOf(const Control& control) const {
+        return drawn_.at(&control)->Handle();
+    }
+    [[nodiscard]] const Measures& Now() const { return *look_.measures; }
+
+    // Puts something into the window that is not in its model, above all that is.
+    template <typename Kind>
+    Drawn& Add(const Control& place) {
+        return *(drawn_[&place] = std::make_unique<Kind>(place, look_, handle_));
+    }
+
+    // Brings to the screen what is not painted yet.
+    void PaintNow() const;
+
+    // Called when the technician presses F1.
+    std::function<void()> OnHelp;
+
+    void Apply(const Control& control, Aspect aspect) override;
+    void Refit(const Label& label) override;
+    [[nodiscard]] const Button* Focused() const override { return focused_; }
+    void Focus(const Button* button) override;
+    void CallForAttention() override;
+    [[nodiscard]] bool IsHeard() const override;
+    void SpeakSoon() override;
+    void Describe(const Button& button, const std::string& news) override;
+    void Announce(const Button& button, const std::string& news) override;
+
+  private:
+    static LRESULT CALLBACK Receive(HWND handle, UINT message, WPARAM first, LPARAM second);
+    LRESULT OnMessage(UINT message, WPARAM first, LPARAM second);
+    LRESULT LeaveToSystem(UINT message, WPARAM first, LPARAM second);
+    void FocusMoved(HWND to);
+    void MoveFocus(bool backwards);
+
+    [[nodiscard]] double DotsPerInch() const;
+    void Measure();
+    void Rescale();
+    void ApplyToWindow(Aspect aspect);
+    void ApplySize() const;
+    void ShowCentred() const;
+
+    ISPMain& model_;
+    Follower follower_;
+    Look look_;
+    HWND handle_ = nullptr;
+    DrawnControls drawn_;
+    TaskbarButton taskbar_;
+    UINT screenDots_ = 0;  // per inch
+    const Button* focused_ = nullptr;
+    int inSystem_ = 0;  // the system's own loops that are at work
+};
+
+}  // namespace keplin::win32

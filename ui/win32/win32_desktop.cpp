@@ -1,0 +1,131 @@
+#include "ui/win32/win32_desktop.h"
+
+#include <mmsystem.h>
+
+#include <array>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "ui/win32/accessible.h"
+#include "ui/win32/open_dialog.h"
+#include "ui/win32/utf16.h"
+
+namespace keplin::win32 {
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr UINT kGrain = 1;             // milliseconds, of the system's clock
+constexpr milliseconds kLateness{2};   // how late the system may wake a sleeper
+constexpr DWORD kLongestYield = 2;     // milliseconds
+constexpr DWORD kBetweenChecks = 500;  // milliseconds
+constexpr int kLongestText = 80;       // characters of a date or a time
+
+bool WaitForEvent(DWORD mostMilliseconds) {
+    return MsgWaitForMultipleObjectsEx(0, nullptr, mostMilliseconds, QS_ALLINPUT,
+                                       MWMO_INPUTAVAILABLE) != WAIT_TIMEOUT;
+}
+
+// A timer's message comes only when nothing else is there: with it all is processed that was.
+void ProcessEvents() {
+    MSG event{};
+    while (PeekMessageW(&event, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&event);
+        DispatchMessageW(&event);
+        if (event.message == WM_TIMER) return;
+    }
+}
+
+// A screen reader asks by messages that do not wait with the window's events; they alone are
+// processed here.
+void AnswerScreenReader(milliseconds duration) {
+    MSG event{};
+    MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(duration.count()), QS_SENDMESSAGE,
+                                0);
+    PeekMessageW(&event, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+}
+
+SYSTEMTIME LocalTime(const FILETIME& time) {
+    SYSTEMTIME universal{};
+    SYSTEMTIME local{};
+    if (!FileTimeToSystemTime(&time, &universal) ||
+        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local)) {
+        throw std::runtime_error("no date of this calendar");
+    }
+    return local;
+}
+
+}  // namespace
+
+Win32Desktop::Win32Desktop(const MainWindow& window, WatchedLine& line, Hooks hooks)
+    : StandardDesktop(std::move(hooks)), window_(window), line_(line) {
+    timeBeginPeriod(kGrain);
+}
+
+Win32Desktop::~Win32Desktop() {
+    timeEndPeriod(kGrain);
+}
+
+void Win32Desktop::Run() {
+    for (;;) {
+        ProcessEvents();
+        if (!WaitForEvent(kBetweenChecks)) line_.CheckLine();
+    }
+}
+
+void Win32Desktop::YieldOnce() {
+    if (line_.TakeIdle()) WaitForEvent(kLongestYield);
+    ProcessEvents();
+}
+
+// An update sleeps once for each line of its file, so the lateness would add up: the end of a sleep
+// is awaited awake.
+void Win32Desktop::Sleep(milliseconds duration) {
+    const auto end = steady_clock::now() + duration;
+    window_.PaintNow();
+    const bool heard = IsHeard();
+    for (;;) {
+        const auto left = std::chrono::floor<milliseconds>(end - steady_clock::now()) - kLateness;
+        if (left.count() <= 0) break;
+        if (heard) {
+            AnswerScreenReader(left);
+        } else {
+            ::Sleep(static_cast<DWORD>(left.count()));
+        }
+    }
+    while (steady_clock::now() < end) {
+    }
+}
+
+std::optional<std::string> Win32Desktop::AskForFile(const OpenFileRequest& request) {
+    return win32::AskForFile(window_.Handle(), request);
+}
+
+std::string Win32Desktop::FileDateTime(const std::string& path) {
+    WIN32_FILE_ATTRIBUTE_DATA facts{};
+    if (!GetFileAttributesExW(ToWide(path).c_str(), GetFileExInfoStandard, &facts))
+        throw std::runtime_error("no date of " + path);
+    const SYSTEMTIME time = LocalTime(facts.ftLastWriteTime);
+    std::array<wchar_t, kLongestText> date{};
+    std::array<wchar_t, kLongestText> clock{};
+    GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &time, nullptr, date.data(),
+                    kLongestText, nullptr);
+    GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, TIME_NOSECONDS, &time, nullptr, clock.data(),
+                    kLongestText);
+    return ToUtf8(date.data()) + " " + ToUtf8(clock.data());
+}
+
+// A system that ends the session asks the window first, and shows this where it refuses.
+void Win32Desktop::KeepAwake(bool awake) {
+    SetThreadExecutionState(ES_CONTINUOUS | (awake ? ES_SYSTEM_REQUIRED | ES_DISPLAY_REQUIRED : 0));
+    if (awake) {
+        ShutdownBlockReasonCreate(window_.Handle(),
+                                  L"An update is being installed into a controller");
+    } else {
+        ShutdownBlockReasonDestroy(window_.Handle());
+    }
+}
+
+}  // namespace keplin::win32
