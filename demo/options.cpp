@@ -162,12 +162,11 @@ DemoOptions Check(const Given& given, const std::string& sample) {
     for (const std::string& text : given.faults)
         options.faults.push_back(ReadFault(text));
     options.file = ReadableFile(options.file.empty() ? sample : options.file);
-    if (!options.memory.empty()) {
-        options.memory = WritableFile(options.memory);
-        if (std::filesystem::equivalent(ToPath(options.memory), ToPath(options.file)))
-            throw WrongOption("the memory would replace the update file: " + options.memory);
-    }
+    std::error_code none;  // one of the two is not there yet
+    if (std::filesystem::equivalent(ToPath(options.memory), ToPath(options.file), none))
+        throw WrongOption("the memory would replace the update file: " + options.file);
     if (!options.pictures.empty()) options.pictures = MadeFolder(options.pictures);
+    if (!options.memory.empty()) options.memory = WritableFile(options.memory);
     return options;
 }
 

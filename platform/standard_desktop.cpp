@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -35,7 +36,12 @@ std::uint64_t StandardDesktop::FileLength(const std::string& path) {
 
 // Output that is still in a buffer goes out first; nothing else of the program runs any more.
 void StandardDesktop::End() {
-    const int exitCode = hooks_.beforeEnd ? hooks_.beforeEnd() : 0;
+    int exitCode = 0;
+    try {
+        if (hooks_.beforeEnd) exitCode = hooks_.beforeEnd();
+    } catch (const std::exception&) {  // the program ends all the same
+        exitCode = 1;
+    }
     std::fflush(nullptr);
     std::_Exit(exitCode);
 }

@@ -1,12 +1,14 @@
 // What a drawing has to be: the window's model drawn with one toolkit. This header and the rules
-// beside it are all that another drawing is written from.
+// beside it say how another one is written; what its toolkit makes of the desktop (yield, sleep,
+// file dialog) is platform/desktop.h, and app/program.h puts the two together.
 //
 // A drawing has one object for each control of the model, made in the model's order: a later
 // control lies above an earlier one and stands inside its container. It measures texts, paints, and
 // hands back what the technician and the timers do. It decides nothing:
 //
 //   Follower            owns the procedure: calls the drawing at each change, takes what comes back
-//   Scale               where everything stands, at how many dots per inch
+//   Scale               where everything stands; FittingDotsPerInch at how many dots per inch,
+//                       Centred where on the screen
 //   TextFit             which font a text is written in, and where in its label
 //   ArrangePanels       what the panels of a status bar show, where, with which tool tip
 //   Throttle            how often a changing bar or shape is shown
@@ -37,11 +39,15 @@ class Drawing {
     // Takes over from the model what the aspect names, whether the control is in sight or not.
     // What stands in the model may have changed further by then. Must not wait for anything.
     //
+    // For the window itself: Caption is its title; Height its outer height, so that the client area
+    // becomes Scale::ClientSize; Visible shows it in the middle of the screen or hides it;
+    // WindowState minimises it. For a status bar Top means that the bottom edge has moved. A timer
+    // runs while it is Enabled, and what it calls is Timer::Tick. A shape whose Left changes is
+    // only moved: a width that changed with the rounding would shimmer.
+    //
     // For a progress bar Min and Max show nothing by themselves, but together with the Value that
-    // is set next: a new range around an old value is no progress. For the window itself: Caption
-    // is its title; Height its outer height, so that the client area becomes Scale::ClientSize;
-    // Visible shows it in the middle of the screen or hides it; WindowState minimises it. For a
-    // status bar Top means that the bottom edge has moved.
+    // is set next: a new range around an old value is no progress. Visible shows at once where it
+    // stands. Its tool tip is DoneText.
     virtual void Apply(const Control& control, Aspect aspect) = 0;
 
     // A neighbour of the label came or went: its TextFit::FontOf may be another one now. Apply does

@@ -53,15 +53,13 @@ TextFit::TextFit(const std::vector<Control*>& controls, Scale scale, const TextM
 // To find a family under another name takes a system a while: each is asked for only when its turn
 // comes.
 TextFont TextFit::Choose() const {
-    TextFont tried;
-    for (int step = 0; kLargest - step * kStep >= kSmallest; ++step) {
+    for (double points = kLargest; points >= kSmallest; points -= kStep) {
         for (const std::string& family : Families(measure_)) {
-            if (!measure_.HasFamily(family)) continue;
-            tried = {family, kLargest - step * kStep};
-            if (EveryTextFits(tried)) return tried;
+            const TextFont tried{family, points};
+            if (measure_.HasFamily(family) && EveryTextFits(tried)) return tried;
         }
     }
-    return tried;
+    return {measure_.OwnFamily(), kSmallest};
 }
 
 // A label with a size of its own does not depend on the choice.

@@ -24,7 +24,7 @@ class TextFit {
     TextFit(const std::vector<Control*>& controls, Scale scale, const TextMeasure& measure);
 
     // Of every text that sets no size of its own: the largest size at which some family fits every
-    // label's text, and the first such family.
+    // label's text, and the first such family; where none does, the desktop's own at the smallest.
     [[nodiscard]] const TextFont& Font() const { return font_; }
 
     // The font of one label now, made smaller where its text does not fit in the chosen one. May be
