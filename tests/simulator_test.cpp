@@ -46,12 +46,21 @@ TEST(SimulatedLoader, EchoesARecordAsItComesAndObeys) {
 
 TEST(SimulatedLoader, RefusesEachWithItsLetterAndKeepsItsMemory) {
     Loader loader;
+    const auto old = loader.Memory().Cells().first(0x8000);  // a program, from one end to the other
+    EXPECT_EQ(std::ranges::count(old, Flash::kErased), 0);
     const std::pair<std::string, char> records[] = {
-        {kErase1, 'N'},         {":01800000017E", 'N'},
-        {kCalibration, '.'},    {":03000000010203F8", 'S'},
-        {":00000004FC", 'T'},   {":0100000100FE", 'F'},
-        {":010000020DF0", 'F'}, {":020000030700F4", 'F'},
-        {kData, 'W'},           {":02FFFF000102FD", 'R'},
+        {kErase1, 'N'},
+        {":01800000017E", 'N'},
+        {kCalibration, '.'},
+        {":03000000010203F8", 'S'},
+        {":00000004FC", 'T'},
+        {":0100000100FE", 'F'},
+        {":010000020DF0", 'F'},
+        {":020000030700F4", 'F'},
+        {":020001030100F9", 'F'},
+        {":020000020100FB", 'F'},
+        {kData, 'W'},
+        {":02FFFF000102FD", 'R'},
     };
     for (const auto& [record, letter] : records) {
         EXPECT_EQ(Send(loader, record), record + letter + "\r\n");
@@ -82,6 +91,8 @@ TEST(SimulatedLoader, WritesDataOnceAndForgetsItsCalibrationWithThePower) {
     const auto cells = loader.Memory().Cells().first(4);
     EXPECT_EQ(std::vector(cells.begin(), cells.end()), (std::vector<std::uint8_t>{1, 2, 3, 0xFF}));
     EXPECT_EQ(Send(loader, kData), kData + "W\r\n");
+    const std::string overlapping = ":03000200010203F5";
+    EXPECT_EQ(Send(loader, overlapping), overlapping + "W\r\n");
     Send(loader, ":01");
     loader.Restart();
     EXPECT_EQ(Send(loader, kErase1), kErase1 + "N\r\n");
@@ -134,6 +145,26 @@ TEST(SimulatedFaults, EachChangesOneReply) {
     }
 }
 
+TEST(SimulatedFaults, StrayBytesAreNoneOfTheReplyAndHaveNoEndOfALine) {
+    for (std::uint32_t seed = 0; seed < 1000; ++seed) {
+        Loader loader;
+        FaultyDevice device(loader, seed);
+        device.Inject({FaultKind::ByteFirst, 1, false});
+        device.Inject({FaultKind::Noise, 2, false});
+        device.Inject({FaultKind::Babble, 3, false});
+        const std::string first = Send(device, "U");
+        ASSERT_TRUE(first.size() == 2 && first[0] != 'U' && first[1] == 'U') << seed;
+        const std::string noisy = Send(device, "U");
+        ASSERT_TRUE(noisy.size() > 1 && noisy[0] == 'U') << seed;
+        Reply babble;
+        ASSERT_EQ(Send(device, "U"), "");
+        for (int i = 0; i < 5000; ++i)
+            device.LineIdle(babble);
+        ASSERT_GT(babble.size(), 4200u) << seed;
+        ASSERT_TRUE(std::ranges::none_of(babble, [](SentByte byte) { return byte.value == '\n'; }));
+    }
+}
+
 TEST(SimulatedFaults, PowerLostInAnEraseLeavesTheBlockOrHalfOfIt) {
     Flash expected;
     for (const auto kind : {FaultKind::PowerLost, FaultKind::PowerLostHalf}) {
@@ -162,6 +193,16 @@ TEST(SimulatedWire, EachByteTakesItsTimeInBothDirections) {
         EXPECT_EQ(wire.ReadAtHost(due), byte);
     }
     EXPECT_EQ(wire.NextEvent(), std::nullopt);
+}
+
+TEST(SimulatedWire, ADeviceAtRestMayGoOnSending) {
+    Loader loader;
+    FaultyDevice device(loader, 1);
+    device.Inject({FaultKind::Babble, 1, true});
+    Wire wire(device);
+    wire.HostSends(std::vector<std::uint8_t>{'U'}, Time{0});
+    for (int i = 2; i < 50; ++i)
+        EXPECT_NE(wire.ReadAtHost(i * kByteTime), std::nullopt) << i;
 }
 
 }  // namespace
