@@ -88,7 +88,7 @@ TEST(StatusPanels, ShareTheirBarAndShortenALongPath) {
     ISPMain window;
     window.Height = kShownHeight;
     const Scale scale(96);
-    const StatusBar& bar = window.StatusBar1;
+    StatusBar& bar = window.StatusBar1;
     const PixelRect place = scale.PlaceAtBottom(bar, window);
     EXPECT_EQ(place, (PixelRect{0, 309, 622, 17}));
     const TextWidth five = [](const std::string& text) { return 5 * int(text.size()); };

@@ -78,15 +78,11 @@ Panel::Panel(Form& form, const Control& bar, std::string name, std::string descr
       Sizing(sizing),
       Text(*this, Aspect::Text, "") {}
 
-StatusBar::StatusBar(Form& form, std::string name, Place place, float aboveBottom)
-    : Control(form, nullptr, std::move(name), place), AboveBottom(aboveBottom) {}
+StatusBar::StatusBar(Form& form, std::string name, float height, float aboveBottom)
+    : Control(form, nullptr, std::move(name), {.height = height}), AboveBottom(aboveBottom) {}
 
 void StatusBar::Add(std::unique_ptr<Panel> panel) {
     panels_.push_back(std::move(panel));
-}
-
-Panel& StatusBar::Panels(std::size_t number) const {
-    return *panels_.at(number - 1);
 }
 
 Timer::Timer(Form& form, std::string name, int interval)

@@ -153,13 +153,15 @@ class Panel : public Control {
 // Stands along the bottom edge of the client area, across its whole width.
 class StatusBar : public Control {
   public:
-    // `aboveBottom` is the distance in twips from the client area's bottom edge to the bar's top.
-    StatusBar(Form& form, std::string name, Place place, float aboveBottom);
+    // `aboveBottom`, as `height` in twips, is the distance from the client area's bottom edge to
+    // the bar's top.
+    StatusBar(Form& form, std::string name, float height, float aboveBottom);
     void Accept(ControlVisitor& visitor) const override;
 
     void Add(std::unique_ptr<Panel> panel);
     // `number` counts from 1, as the design does.
-    [[nodiscard]] Panel& Panels(std::size_t number) const;
+    [[nodiscard]] Panel& Panels(std::size_t number) { return *panels_.at(number - 1); }
+    [[nodiscard]] const Panel& Panels(std::size_t number) const { return *panels_.at(number - 1); }
     [[nodiscard]] std::size_t PanelCount() const { return panels_.size(); }
 
     const float AboveBottom;

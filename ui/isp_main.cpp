@@ -38,8 +38,8 @@ ISPMain::ISPMain()
       Shape1(*this, "Shape1", {120, 3960, 5175, 255}, std::nullopt),
       Shape2(*this, "Shape2", {120, 3960, 135, 255}, kBlockBlue),
       cmdExit(*this, nullptr, "cmdExit", "Close", {7200, 3960, 1335, 375}, 0),
-      StatusBar1(*this, "StatusBar1", {0, 7980, kWidth, kStatusBarHeight}, 2 * kStatusBarHeight),
-      StatusBar2(*this, "StatusBar2", {0, 8235, kWidth, kStatusBarHeight}, kStatusBarHeight),
+      StatusBar1(*this, "StatusBar1", kStatusBarHeight, 2 * kStatusBarHeight),
+      StatusBar2(*this, "StatusBar2", kStatusBarHeight, kStatusBarHeight),
       Timer1(*this, "Timer1", 2),
 
       Frame3(*this, PicGettingStarted, "Frame3", "QDX-470 Getting Started", {120, 120, 7935, 2655},
