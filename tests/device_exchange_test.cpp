@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-struct DeviceExchangeTest : testing::Test, VirtualScreen {
+struct DeviceExchanges : testing::Test, VirtualScreen {
     ScriptedPort port{time};
     DeviceExchange controller{port, desktop};
 
@@ -20,7 +20,7 @@ struct DeviceExchangeTest : testing::Test, VirtualScreen {
     }
 };
 
-TEST_F(DeviceExchangeTest, PingTakesTheOneByteThatIsThereAfterFiftyMilliseconds) {
+TEST_F(DeviceExchanges, PingTakesTheOneByteThatIsThereAfterFiftyMilliseconds) {
     for (const int answer : {0x55, -1, 0x00, 0x54, 0x0A}) {
         port.Fail("Setting47 -1").Fail("DiscardInput").Fail("WriteByte 85");
         port.Expect("ReadByte", answer);
@@ -29,7 +29,7 @@ TEST_F(DeviceExchangeTest, PingTakesTheOneByteThatIsThereAfterFiftyMilliseconds)
     }
 }
 
-TEST_F(DeviceExchangeTest, RecordsGoOutAsTheLoaderKnowsThem) {
+TEST_F(DeviceExchanges, RecordsGoOutAsTheLoaderKnowsThem) {
     ExpectRecord(":010000020CF1", ":010000020CF1.\r\n");
     EXPECT_TRUE(controller.SendCalibration());
     const char* const erase[] = {":020000030100FA", ":020000030120DA", ":020000030140BA",
@@ -44,7 +44,7 @@ TEST_F(DeviceExchangeTest, RecordsGoOutAsTheLoaderKnowsThem) {
     EXPECT_TRUE(controller.SendDataLine(line));
 }
 
-TEST_F(DeviceExchangeTest, ReplyEndsAtTheFirstLineFeedWhateverPausesItHas) {
+TEST_F(DeviceExchanges, ReplyEndsAtTheFirstLineFeedWhateverPausesItHas) {
     port.ExpectDiscardStep().Expect("WriteText :00");
     port.ExpectReads(":0").Expect("ReadByte", -1).Fail("ReadByte").ExpectReads("0.\n");
     EXPECT_TRUE(controller.SendDataLine(":00"));
@@ -53,7 +53,7 @@ TEST_F(DeviceExchangeTest, ReplyEndsAtTheFirstLineFeedWhateverPausesItHas) {
     EXPECT_FALSE(controller.SendDataLine(":00"));
 }
 
-TEST_F(DeviceExchangeTest, SilenceEndsTheExchangeAfterThirtySecondsFromTheLastByte) {
+TEST_F(DeviceExchanges, SilenceEndsTheExchangeAfterThirtySecondsFromTheLastByte) {
     port.ExpectDiscardStep().Fail("WriteText :00");
     desktop.OnYield = [&] { port.Expect("ReadByte", -1); };
     const auto start = desktop.Now();
@@ -73,7 +73,7 @@ TEST_F(DeviceExchangeTest, SilenceEndsTheExchangeAfterThirtySecondsFromTheLastBy
     EXPECT_LT(desktop.Now() - second, 60s);
 }
 
-TEST_F(DeviceExchangeTest, AYieldThatTheTechnicianHoldsUpIsNoSilence) {
+TEST_F(DeviceExchanges, AYieldThatTheTechnicianHoldsUpIsNoSilence) {
     bool held = false;
     desktop.OnYield = [&] {
         if (!std::exchange(held, true)) time.Now += 40s;
@@ -82,7 +82,7 @@ TEST_F(DeviceExchangeTest, AYieldThatTheTechnicianHoldsUpIsNoSilence) {
     EXPECT_TRUE(controller.SendDataLine(":00"));
 }
 
-TEST_F(DeviceExchangeTest, BabbleAndALostLineEndTheExchangeUnlessTheReplyIsComplete) {
+TEST_F(DeviceExchanges, BabbleAndALostLineEndTheExchangeUnlessTheReplyIsComplete) {
     int reads = 0;
     desktop.OnYield = [&] { port.Expect("ReadByte", 'x'), ++reads; };
     port.ExpectDiscardStep().Expect("WriteText :00");

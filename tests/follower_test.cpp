@@ -43,9 +43,9 @@ class PlainDrawing : public Drawing {
 };
 
 // The window with its getting-started page.
-class FollowerTest : public testing::Test {
+class Followers : public testing::Test {
   protected:
-    FollowerTest() {
+    Followers() {
         for (Control* hidden : std::initializer_list<Control*>{
                  &model.lblPrgm, &model.PicGettingStarted, &model.PicSetup, &model.PicProgram})
             hidden->Visible = false;
@@ -80,7 +80,7 @@ class FollowerTest : public testing::Test {
     PlainDrawing drawing{model};
 };
 
-TEST_F(FollowerTest, TheFocusGoesToAButtonThatCanBePressed) {
+TEST_F(Followers, TheFocusGoesToAButtonThatCanBePressed) {
     EXPECT_EQ(Focused(), "Next_1");
     drawing.Focus(nullptr);
     model.PicGettingStarted.Visible = false;
@@ -104,7 +104,7 @@ TEST_F(FollowerTest, TheFocusGoesToAButtonThatCanBePressed) {
     EXPECT_EQ(Focused(), "cmdExit") << "the technician has put it there";
 }
 
-TEST_F(FollowerTest, WhileAPressIsAtWorkALostFocusPressesNothing) {
+TEST_F(Followers, WhileAPressIsAtWorkALostFocusPressesNothing) {
     bool found = false;
     model.cmdPortTest.OnClick = [&] {
         model.cmdPortTest.Enabled = false;
@@ -129,7 +129,7 @@ TEST_F(FollowerTest, WhileAPressIsAtWorkALostFocusPressesNothing) {
 
 // The second stroke of a double press, and a click on a grey button or on the title bar's close
 // control that waits for a pause to end.
-TEST_F(FollowerTest, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
+TEST_F(Followers, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
     const Follower& follower = drawing.follower;
     int requests = 0;
     model.OnCloseRequest = [&] { ++requests; };
@@ -159,7 +159,7 @@ TEST_F(FollowerTest, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
     EXPECT_EQ(requests, 1);
 }
 
-TEST_F(FollowerTest, WhatHangsTogetherFollowsTogether) {
+TEST_F(Followers, WhatHangsTogetherFollowsTogether) {
     drawing.asked.clear();
     model.Height = 5460;
     EXPECT_EQ(std::exchange(drawing.asked, ""), "ISPMain.Height\nStatusBar1.Top\nStatusBar2.Top\n");
@@ -173,7 +173,7 @@ TEST_F(FollowerTest, WhatHangsTogetherFollowsTogether) {
     EXPECT_EQ(drawing.asked, "cmdExit.Enabled\ncall\n");
 }
 
-TEST_F(FollowerTest, NewsBelongsToTheButtonWithTheFocus) {
+TEST_F(Followers, NewsBelongsToTheButtonWithTheFocus) {
     Show(model.PicSetup);
     drawing.follower.Speak();
     drawing.asked.clear();
@@ -201,7 +201,7 @@ TEST_F(FollowerTest, NewsBelongsToTheButtonWithTheFocus) {
 }
 
 // A screen reader that comes in the midst of a run is told how that ended.
-TEST_F(FollowerTest, WhatNobodyHeardIsNoNews) {
+TEST_F(Followers, WhatNobodyHeardIsNoNews) {
     Show(model.PicProgram);
     drawing.heard = false;
     drawing.asked = drawing.description = "";

@@ -9,7 +9,7 @@
 namespace keplin::test {
 namespace {
 
-struct PortSearchTest : testing::Test, VirtualScreen {
+struct PortSearches : testing::Test, VirtualScreen {
     ScriptedPort port{time, &trace};
     DeviceExchange controller{port, desktop};
     PortSearch search{window, port, controller, desktop};
@@ -25,7 +25,7 @@ struct PortSearchTest : testing::Test, VirtualScreen {
     }
 };
 
-TEST_F(PortSearchTest, FindsTheControllerOnPortThreeAndLeavesItOpen) {
+TEST_F(PortSearches, FindsTheControllerOnPortThreeAndLeavesItOpen) {
     port.Expect("DiscardInput");
     ExpectOpen(1, 0);
     ExpectOpen(2, 7);
@@ -39,7 +39,7 @@ TEST_F(PortSearchTest, FindsTheControllerOnPortThreeAndLeavesItOpen) {
     EXPECT_EQ(trace.Take(), Data("port-search.trace"));
 }
 
-TEST_F(PortSearchTest, ASearchThatFindsNothingClosesWhatItOpened) {
+TEST_F(PortSearches, ASearchThatFindsNothingClosesWhatItOpened) {
     port.Fail("DiscardInput");
     for (int number = 1; number <= 4; ++number) {
         ExpectOpen(number, 1);
@@ -50,7 +50,7 @@ TEST_F(PortSearchTest, ASearchThatFindsNothingClosesWhatItOpened) {
     EXPECT_EQ(search.PortStatus, -1);
 }
 
-TEST_F(PortSearchTest, OpeningFailsAtTheFirstStepThatFails) {
+TEST_F(PortSearches, OpeningFailsAtTheFirstStepThatFails) {
     port.Fail("LineSpeed 38400");
     EXPECT_FALSE(search.OpenPort(1));
     port.Expect("LineSpeed 38400").Expect("Setting3 0").Fail("PortNumber 2");
@@ -66,7 +66,7 @@ TEST_F(PortSearchTest, OpeningFailsAtTheFirstStepThatFails) {
     search.ClosePort();
 }
 
-TEST_F(PortSearchTest, ACloseThatFailsKeepsTheStatus) {
+TEST_F(PortSearches, ACloseThatFailsKeepsTheStatus) {
     search.PortStatus = 5;
     port.Fail("Close").Expect("Close", 65536);
     search.ClosePort();

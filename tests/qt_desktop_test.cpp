@@ -25,9 +25,9 @@
 namespace keplin::test {
 namespace {
 
-using QtDesktopTest = QtWindow;
+using DesktopServices = QtWindow;
 
-TEST_F(QtDesktopTest, TheTimerTicksWhileItIsEnabled) {
+TEST_F(DesktopServices, TheTimerTicksWhileItIsEnabled) {
     int ticks = 0;
     model.Timer1.OnTimer = [&] { ++ticks; };
     model.Timer1.Enabled = true;
@@ -36,7 +36,7 @@ TEST_F(QtDesktopTest, TheTimerTicksWhileItIsEnabled) {
     EXPECT_FALSE(window.findChild<QTimer*>("Timer1")->isActive());
 }
 
-TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
+TEST_F(DesktopServices, AYieldWaitsForTheLineWhenItIsToldTo) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe(ends.data()), 0);
     line.OnLineChange(ends[0]);
@@ -60,7 +60,7 @@ TEST_F(QtDesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
         close(end);
 }
 
-TEST_F(QtDesktopTest, WhatWasSetIsPaintedAndHandedOverBeforeASleepWhichHandlesNoEvent) {
+TEST_F(DesktopServices, WhatWasSetIsPaintedAndHandedOverBeforeASleepWhichHandlesNoEvent) {
     std::vector<std::string> happened;
     const auto note = [&](const char* what) { happened.emplace_back(what); };
     const WhenPainted painted(*Find(model.Label9), [&] { note("painted"); });
@@ -78,7 +78,7 @@ TEST_F(QtDesktopTest, WhatWasSetIsPaintedAndHandedOverBeforeASleepWhichHandlesNo
 }
 
 // The open-file dialog, in a folder of its own.
-class QtDialogTest : public QtWindow {
+class QtDialog : public QtWindow {
   protected:
     // What comes of the dialog when `act` is done in it; cancelled if it still stands then.
     template <typename Act>
@@ -128,7 +128,7 @@ class QtDialogTest : public QtWindow {
     const QTemporaryDir folder;
 };
 
-TEST_F(QtDialogTest, WhatIsTypedCountsWithOneReturnWhetherOrNotThereIsSuchAFile) {
+TEST_F(QtDialog, WhatIsTypedCountsWithOneReturnWhetherOrNotThereIsSuchAFile) {
     QDir(folder.path()).mkdir("a");
     MakeFile("a/there.HEX", 0);
     for (const char* name : {"missing.HEX", "a/missing.HEX", "a/there.HEX"}) {
@@ -138,7 +138,7 @@ TEST_F(QtDialogTest, WhatIsTypedCountsWithOneReturnWhetherOrNotThereIsSuchAFile)
     EXPECT_EQ(Type(Path("a")), std::nullopt);
 }
 
-TEST_F(QtDialogTest, ShowsTheNewestFileFirstInCapitalsOrNot) {
+TEST_F(QtDialog, ShowsTheNewestFileFirstInCapitalsOrNot) {
     int age = 0;
     for (const char* name : {"3.txt", "5.HEX", "2.hex", "6.HEX", "1.HEX", "7.hex", "4.HEX"})
         MakeFile(name, ++age);
@@ -152,7 +152,7 @@ TEST_F(QtDialogTest, ShowsTheNewestFileFirstInCapitalsOrNot) {
     EXPECT_TRUE(Until([&] { return watchersOfPlaces().isEmpty(); })) << "the dialog is closed";
 }
 
-TEST_F(QtDesktopTest, WhereTheWorkingDirectoryWasDeletedHomeStandsInForIt) {
+TEST_F(DesktopServices, WhereTheWorkingDirectoryWasDeletedHomeStandsInForIt) {
     const QString before = QDir::currentPath();
     EXPECT_EQ(desktop.CurrentDirectory(), before.toStdString());
     {
@@ -163,7 +163,7 @@ TEST_F(QtDesktopTest, WhereTheWorkingDirectoryWasDeletedHomeStandsInForIt) {
     QDir::setCurrent(before);
 }
 
-TEST_F(QtDesktopTest, TheDesktopTellsFactsOfFilesAndAsksForOne) {
+TEST_F(DesktopServices, TheDesktopTellsFactsOfFilesAndAsksForOne) {
     TestLine none;
     QtDesktop other(window, none,
                     {.openFile = [](const auto& request) { return request.title; },

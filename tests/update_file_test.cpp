@@ -10,7 +10,7 @@
 namespace keplin::test {
 namespace {
 
-struct UpdateFileTest : testing::Test, VirtualScreen {
+struct UpdateFiles : testing::Test, VirtualScreen {
     UpdateFile file{window, desktop};
     std::string path;  // of the file loaded last
 
@@ -31,7 +31,7 @@ std::string Repeat(std::string_view text, int times) {
     return all;
 }
 
-TEST_F(UpdateFileTest, LinesEndAtACarriageReturnAndNowhereElse) {
+TEST_F(UpdateFiles, LinesEndAtACarriageReturnAndNowhereElse) {
     using Lines = std::vector<std::string>;
     const std::pair<std::string, Lines> cases[] = {
         {"", {}},
@@ -54,7 +54,7 @@ TEST_F(UpdateFileTest, LinesEndAtACarriageReturnAndNowhereElse) {
     }
 }
 
-TEST_F(UpdateFileTest, HoldsTenThousandAndOneLinesAndNotOneMore) {
+TEST_F(UpdateFiles, HoldsTenThousandAndOneLinesAndNotOneMore) {
     ASSERT_TRUE(Load(Repeat(":00000001FF\r", 10001)));
     EXPECT_EQ(file.LineCount, 10001);
     EXPECT_EQ(Lines(), " Number of Lines: 10001  ");
@@ -66,7 +66,7 @@ TEST_F(UpdateFileTest, HoldsTenThousandAndOneLinesAndNotOneMore) {
     EXPECT_EQ(Lines(), "earlier");
 }
 
-TEST_F(UpdateFileTest, RefusesAFileThatWouldFillTheMemory) {
+TEST_F(UpdateFiles, RefusesAFileThatWouldFillTheMemory) {
     constexpr int kLines = 4096;
     const std::string line(LineReader::kLargestFile / kLines - 1, 'x');
     const std::string largest = Repeat(line + "\r", kLines);
@@ -74,7 +74,7 @@ TEST_F(UpdateFileTest, RefusesAFileThatWouldFillTheMemory) {
     EXPECT_FALSE(Load(largest + "x"));
 }
 
-TEST_F(UpdateFileTest, ChecksumIsTheSumOfTheDataBytesOfAllLines) {
+TEST_F(UpdateFiles, ChecksumIsTheSumOfTheDataBytesOfAllLines) {
     const std::pair<std::string, const char*> cases[] = {
         {"", "0"},
         {"x\rx\r\r", "FFFFFFFD"},
@@ -95,7 +95,7 @@ TEST_F(UpdateFileTest, ChecksumIsTheSumOfTheDataBytesOfAllLines) {
     }
 }
 
-TEST_F(UpdateFileTest, ALineThatSumsAboveSixteenBitsEndsTheLoad) {
+TEST_F(UpdateFiles, ALineThatSumsAboveSixteenBitsEndsTheLoad) {
     EXPECT_TRUE(Load(":81000000" + Repeat("FF", 128) + "7F"));
     EXPECT_FALSE(Load("first\r:81000000" + Repeat("FF", 128) + "80\rthird"));
     EXPECT_TRUE(file.HexLines[1].starts_with(":81"));  // stored before it was summed
@@ -103,7 +103,7 @@ TEST_F(UpdateFileTest, ALineThatSumsAboveSixteenBitsEndsTheLoad) {
     EXPECT_EQ(Checksum(), "Checksum: 7FFF");
 }
 
-TEST_F(UpdateFileTest, ALoadThatFailsKeepsWhatWasShownBefore) {
+TEST_F(UpdateFiles, ALoadThatFailsKeepsWhatWasShownBefore) {
     desktop.Answer = std::nullopt;
     EXPECT_FALSE(file.LoadUpdateFile());
     for (const char* notAFile : {"/", "/dev/zero", "/nowhere/at all", ""}) {
@@ -117,7 +117,7 @@ TEST_F(UpdateFileTest, ALoadThatFailsKeepsWhatWasShownBefore) {
     EXPECT_EQ(window.StatusBar2.Panels(1).Text.Get(), "");
 }
 
-TEST_F(UpdateFileTest, AReadErrorIsNoEndOfTheFile) {
+TEST_F(UpdateFiles, AReadErrorIsNoEndOfTheFile) {
     desktop.Answer = "/proc/self/mem";  // a regular file whose first byte cannot be read
     EXPECT_FALSE(file.LoadUpdateFile());
     EXPECT_EQ(window.StatusBar2.Panels(1).Text.Get(), " File Size: 0     Hex: 0");

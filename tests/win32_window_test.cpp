@@ -251,9 +251,9 @@ TEST_F(Win32Window, TheProgressBarShowsWhatIsDone) {
     EXPECT_TRUE(Until([&] { return shown() == 0; }));
 }
 
-using Win32DesktopTest = Win32Window;
+using Win32DesktopServices = Win32Window;
 
-TEST_F(Win32DesktopTest, ASleepPaintsWhatWasSetAndHandlesNoEvent) {
+TEST_F(Win32DesktopServices, ASleepPaintsWhatWasSetAndHandlesNoEvent) {
     int ticks = 0;
     model.Timer1.OnTimer = [&] { ++ticks; };
     model.Timer1.Enabled = true;
@@ -267,7 +267,7 @@ TEST_F(Win32DesktopTest, ASleepPaintsWhatWasSetAndHandlesNoEvent) {
     EXPECT_TRUE(Until([&] { return ticks > 0; }));
 }
 
-TEST_F(Win32DesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
+TEST_F(Win32DesktopServices, AYieldWaitsForTheLineWhenItIsToldTo) {
     const auto shortestYield = [&](bool wait) {
         auto shortest = std::chrono::steady_clock::duration::max();
         for (int i = 0; i < 30; ++i) {
@@ -283,7 +283,7 @@ TEST_F(Win32DesktopTest, AYieldWaitsForTheLineWhenItIsToldTo) {
     EXPECT_LT(shortestYield(false), std::chrono::milliseconds(1));
 }
 
-TEST_F(Win32DesktopTest, TellsAFilesDate) {
+TEST_F(Win32DesktopServices, TellsAFilesDate) {
     EXPECT_NE(desktop.FileDateTime(desktop.CurrentDirectory()), "");
     EXPECT_THROW(desktop.FileDateTime("no such file"), std::runtime_error);
 }
