@@ -44,6 +44,7 @@ std::string Written(float value);
 // A property of any type.
 class PropertyBase {
   public:
+    virtual ~PropertyBase() = default;
     PropertyBase(const PropertyBase&) = delete;
     PropertyBase& operator=(const PropertyBase&) = delete;
 
@@ -54,7 +55,6 @@ class PropertyBase {
 
   protected:
     PropertyBase(const Control& owner, Aspect aspect) : Which(aspect), owner_(owner) {}
-    ~PropertyBase() = default;
     void TellObservers() const;
 
   private:
