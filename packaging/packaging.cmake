@@ -48,16 +48,8 @@ set(manual_folder ${CMAKE_INSTALL_DATADIR}/keplin/manual)
 find_program(CMARK cmark-gfm)
 if(CMARK)
     set(page ${PROJECT_BINARY_DIR}/share/keplin/manual/manual.html)
-    set(docs ${PROJECT_SOURCE_DIR}/docs)
-    file(GLOB pictures CONFIGURE_DEPENDS ${docs}/pictures/*.png)
-    add_custom_command(OUTPUT ${page}
-        COMMAND ${CMAKE_COMMAND} -D cmark=${CMARK} -D docs=${docs}
-                -D frame=${packaging}/manual.html.in -D page=${page} -P ${packaging}/manual.cmake
-        COMMAND ${CMAKE_COMMAND} -E copy_directory ${docs}/pictures
-                ${PROJECT_BINARY_DIR}/share/keplin/manual/pictures
-        DEPENDS ${docs}/manual.md ${docs}/serial-permission.md ${pictures}
-                ${packaging}/manual.html.in ${packaging}/manual.cmake
-        VERBATIM)
+    include(packaging/manual_page.cmake)
+    add_manual_page(${page} pictures)
     install(FILES ${page} DESTINATION ${manual_folder})
     install(FILES ${pictures} DESTINATION ${manual_folder}/pictures)
     # Where documents are looked for.

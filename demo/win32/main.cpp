@@ -124,8 +124,7 @@ int main() try {
     std::vector<char*> pointers(arguments.size());
     std::transform(arguments.begin(), arguments.end(), pointers.begin(),
                    [](std::string& argument) { return argument.data(); });
-    const std::filesystem::path sample =
-        ProgramFolder() / ".." / "share" / "keplin" / "QDX-470-sample.HEX";
+    const std::filesystem::path sample = ProgramFolder() / "QDX-470-sample.HEX";
     int exitCode = 0;
     auto options = ReadDemoOptions(static_cast<int>(pointers.size()), pointers.data(),
                                    FromPath(sample), exitCode);
