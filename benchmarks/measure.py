@@ -11,13 +11,13 @@ from pathlib import Path
 import line
 import loading
 import logic
+from report import REPORT, keep_here
 import start
 import surroundings
 import table
 
 SUBJECTS = {"run": line.measure, "loading": loading.measure, "start": start.measure,
             "logic": logic.measure}
-REPORT = Path("docs/figures.md")
 EXPLANATION = Path(__file__).with_name("explanation.md")
 
 
@@ -53,7 +53,7 @@ def main(programs, *wanted):
         for title, text in notes.items():
             print(f"{title}\n\n{text}")
     else:
-        REPORT.write_text(report(rows, notes, machine))
+        keep_here(report(rows, notes, machine))
         print(f"written: {REPORT}")
 
 

@@ -5,20 +5,16 @@
 #include <sys/resource.h>
 
 #include <QApplication>
-#include <cstdio>
-#include <cstdlib>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "app/qt/program.h"
 #include "benchmarks/first_paint.h"
-#include "benchmarks/timed_doors.h"
+#include "benchmarks/measurement.h"
 
 namespace keplin::benchmarks {
-namespace {
 
-// Of this process, all threads, the system's work for it included.
 Moment ProcessorTime() {
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
@@ -28,67 +24,6 @@ Moment ProcessorTime() {
     return nanoseconds(usage.ru_utime) + nanoseconds(usage.ru_stime);
 }
 
-class Measurement {
-  public:
-    Measurement(std::string file, const std::string& device)
-        : file_(std::move(file)), program_([device] { return std::vector{device}; }, Hooks()) {
-        session_.Main();
-    }
-
-    // From the dialog's answer to the page that follows, painted.
-    void Load() {
-        program_.window.Next_1.Press();
-        program_.window.Next_2.Enabled = true;
-        program_.window.Next_2.Press();
-        Demand(program_.window.PicProgram.Shown(), "the file was not loaded");
-        std::cout << "load " << Now() - chosen_ << "\n";
-    }
-
-    void Update() {
-        program_.window.Next_1.Press();
-        program_.window.cmdPortTest.Press();
-        program_.window.Next_2.Press();
-        exchanges_.clear();
-        exchanges_.reserve(16384);
-        const Moment processor = ProcessorTime();
-        const Moment start = Now();
-        program_.window.Command1.Press();
-        const Moment end = Now();
-        Demand(program_.window.UpdateComplete(), "the update stopped");
-        std::cout << "run " << start << " " << end << "\n"
-                  << "processor " << ProcessorTime() - processor << "\n";
-        for (const Exchange& exchange : exchanges_) {
-            std::cout << "exchange " << exchange.writing << " " << exchange.written << " "
-                      << exchange.slept << " " << exchange.answered << "\n";
-        }
-    }
-
-  private:
-    StandardDesktop::Hooks Hooks() {
-        StandardDesktop::Hooks hooks;
-        hooks.openFile = [this](const OpenFileRequest&) {
-            chosen_ = Now();
-            return file_;
-        };
-        return hooks;
-    }
-
-    static void Demand(bool holds, const char* otherwise) {
-        if (holds) return;
-        std::cerr << "keplin-bench-program: " << otherwise << "\n";
-        std::_Exit(1);
-    }
-
-    const std::string file_;
-    Moment chosen_ = 0;
-    Program program_;
-    std::vector<Exchange> exchanges_;
-    TimedPort port_{program_.port, exchanges_};
-    TimedDesktop desktop_{program_.desktop, exchanges_};
-    Session session_{program_.window, port_, desktop_};  // in place of the program's own
-};
-
-}  // namespace
 }  // namespace keplin::benchmarks
 
 int main(int argc, char** argv) {
@@ -100,7 +35,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: keplin-bench-program load FILE | update FILE DEVICE\n";
         return 2;
     }
-    Measurement measurement(words[1], update ? words[2] : "");
+    Measurement<keplin::Program> measurement(words[1], update ? words[2] : "");
     const FirstPaint begin([&] {
         if (update) {
             measurement.Update();

@@ -8,9 +8,9 @@ class WatchedLine {
   public:
     virtual ~WatchedLine() = default;
 
-    // Whether this yield may wait for the next byte: nothing was read since the last opening,
-    // discard or write, or the last read found nothing. Says so once for each read that finds
-    // nothing.
+    // Whether this yield may wait for the next byte: the last read found nothing, or nothing was
+    // read since the last opening or discard; where a byte ends the wait, or since the last write.
+    // Says so once for each read that finds nothing.
     [[nodiscard]] virtual bool TakeIdle() = 0;
 
     // Notices a line that hung up while nobody uses it, and lets go of it.

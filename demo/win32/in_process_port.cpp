@@ -34,7 +34,7 @@ void InProcessPort::WriteByte(std::uint8_t byte) {
 
 void InProcessPort::WriteText(std::string_view text) {
     if (open_ == 0 || lost_) throw PortError("there is no line");
-    idle_ = true;
+    idle_ = false;  // a reply may be there by the next yield
     if (!Connected()) return;
     wire_.HostSends({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()}, Now());
 }

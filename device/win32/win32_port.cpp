@@ -76,7 +76,7 @@ void Win32Port::WriteByte(std::uint8_t byte) {
 
 void Win32Port::WriteText(std::string_view text) {
     if (!line_) throw PortError(lost_ ? "the line is lost" : "the port is not open");
-    idle_ = true;
+    idle_ = false;  // a reply may be there by the next yield
     DWORD taken = 0;
     if (!WriteFile(line_.get(), text.data(), static_cast<DWORD>(text.size()), &taken, nullptr)) {
         LoseLine();

@@ -1,12 +1,13 @@
-// keplin-far-ends FILE: what stands at the far ends of the ports of the tests under Wine. Prints
-// the devices of these four ports, one a line, and at the end of its input leaves with exit code 0
-// when the controller was left alone or its memory is what the file describes.
-#include <algorithm>
+// keplin-far-ends MEMORY [FAULT]...: what stands at the far ends of the ports of the tests under
+// Wine. Prints the devices of these four ports, one a line. At the end of its input it writes the
+// 64 KiB of the controller's memory to that file, unless the controller was left alone. Its faults
+// are named as those of keplin-demo: hang-up@60.
+#include <fstream>
 #include <iostream>
 #include <limits>
+#include <span>
 
-#include "demo/file_image.h"
-#include "simulator/loader.h"
+#include "simulator/faulty_device.h"
 #include "simulator/posix/pseudo_terminal_line.h"
 #include "tests/support/pseudo_terminal.h"
 
@@ -34,12 +35,15 @@ class Echo final : public simulator::DeviceEnd {
 
 int main(int argc, char** argv) try {
     using namespace keplin;
-    if (argc != 2) return 2;
+    if (argc < 2) return 2;
     simulator::SilentDevice nobody;
     simulator::Loader loader;
+    simulator::FaultyDevice faulty(loader, 1);
+    for (const char* fault : std::span(argv, static_cast<std::size_t>(argc)).subspan(2))
+        faulty.Inject(simulator::ParseFault(fault).value());
     Echo echo;
     simulator::PseudoTerminalLine silent(nobody);
-    simulator::PseudoTerminalLine controller(loader);
+    simulator::PseudoTerminalLine controller(faulty);
     simulator::PseudoTerminalLine echoing(echo);
     const test::PseudoTerminal stuck;
     std::cout << silent.DevicePath() << "\n"
@@ -48,9 +52,11 @@ int main(int argc, char** argv) try {
               << stuck.Path() << std::endl;
     std::cin.ignore(std::numeric_limits<std::streamsize>::max());
     return controller.WithDevice([&] {
-        const bool leftAlone = loader.ObeyedRecords().empty();
-        const auto cells = loader.Memory().Cells();
-        return leftAlone || std::ranges::equal(cells, ImageOfFile(argv[1])) ? 0 : 1;
+        if (loader.ObeyedRecords().empty()) return 0;
+        std::ofstream file(argv[1], std::ios::binary);
+        for (const std::uint8_t cell : loader.Memory().Cells())
+            file.put(static_cast<char>(cell));
+        return file.flush() ? 0 : 1;
     });
 } catch (const std::exception& error) {
     std::cerr << "keplin-far-ends: " << error.what() << "\n";

@@ -18,7 +18,7 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 constexpr UINT kGrain = 1;             // milliseconds, of the system's clock
-constexpr milliseconds kLateness{2};   // how late the system may wake a sleeper
+constexpr milliseconds kLateness{1};   // how late the system may wake a sleeper
 constexpr DWORD kLongestYield = 2;     // milliseconds
 constexpr DWORD kBetweenChecks = 500;  // milliseconds
 constexpr int kLongestText = 80;       // characters of a date or a time
@@ -87,7 +87,7 @@ void Win32Desktop::Sleep(milliseconds duration) {
     window_.PaintNow();
     const bool heard = IsHeard();
     for (;;) {
-        const auto left = std::chrono::floor<milliseconds>(end - steady_clock::now()) - kLateness;
+        const auto left = std::chrono::ceil<milliseconds>(end - steady_clock::now()) - kLateness;
         if (left.count() <= 0) break;
         if (heard) {
             AnswerScreenReader(left);
