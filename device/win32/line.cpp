@@ -25,25 +25,21 @@ auto Start(Work work) {
 // Without sharing: no other program gets in as long as it is open.
 UniqueHandle OpenDevice(const std::string& name) {
     const std::wstring path = L"\\\\.\\" + std::wstring(name.begin(), name.end());
-    return Own(CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0,
-                           nullptr));
+    const HANDLE device = CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                      OPEN_EXISTING, 0, nullptr);
+    return UniqueHandle(device == INVALID_HANDLE_VALUE ? nullptr : device);
 }
 
+// Nothing holds back, changes or drops a byte.
 void SetRaw(DCB& settings) {
     settings.BaudRate = CBR_38400;
     settings.ByteSize = 8;
     settings.Parity = NOPARITY;
     settings.StopBits = ONESTOPBIT;
     settings.fBinary = TRUE;
-    settings.fParity = FALSE;
-    settings.fOutxCtsFlow = FALSE;
-    settings.fOutxDsrFlow = FALSE;
-    settings.fDsrSensitivity = FALSE;
-    settings.fOutX = FALSE;
-    settings.fInX = FALSE;
-    settings.fErrorChar = FALSE;
-    settings.fNull = FALSE;
-    settings.fAbortOnError = FALSE;
+    settings.fOutxCtsFlow = settings.fOutxDsrFlow = settings.fDsrSensitivity = FALSE;
+    settings.fOutX = settings.fInX = FALSE;
+    settings.fParity = settings.fErrorChar = settings.fNull = settings.fAbortOnError = FALSE;
     settings.fDtrControl = DTR_CONTROL_ENABLE;
     settings.fRtsControl = RTS_CONTROL_ENABLE;
 }

@@ -1,11 +1,15 @@
 // Opening and closing a COM port without waiting for a device that is stuck.
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 
-#include "device/win32/unique_handle.h"
+#include "platform/win32/owned.h"
 
 namespace keplin {
+
+using UniqueHandle = Owned<HANDLE, CloseHandle>;
 
 // The port of that name ("COM5") at 38400 bit/s, eight data bits, no parity, one stop bit, no flow
 // control, DTR and RTS on, and nothing received yet. Its reads return at once, its writes after

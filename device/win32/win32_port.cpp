@@ -1,7 +1,5 @@
 #include "device/win32/win32_port.h"
 
-#include "device/win32/line.h"
-
 namespace keplin {
 namespace {
 

@@ -10,7 +10,7 @@
 
 #include "device/port_paths.h"
 #include "device/serial_port.h"
-#include "device/win32/unique_handle.h"
+#include "device/win32/line.h"
 #include "platform/watched_line.h"
 
 namespace keplin {
