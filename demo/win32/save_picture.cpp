@@ -1,15 +1,15 @@
 #include "demo/win32/save_picture.h"
 
 #include <wincodec.h>
+#include <wrl/client.h>
 
-#include "ui/win32/com.h"
 #include "ui/win32/gdi.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin {
 namespace {
 
-using win32::Com;
+using Microsoft::WRL::ComPtr;
 
 win32::Gdi<HBITMAP> Photograph(HWND window) {
     const PixelSize size = win32::InsideOf(window);
@@ -26,21 +26,20 @@ win32::Gdi<HBITMAP> Photograph(HWND window) {
 
 bool SavePicture(HWND window, const std::string& path) {
     const auto bitmap = Photograph(window);
-    const auto codecs =
-        Com<IWICImagingFactory>::Make(CLSID_WICImagingFactory, IID_IWICImagingFactory);
-    if (!codecs) return false;
-    Com<IWICStream> file;
-    Com<IWICBitmapEncoder> encoder;
-    Com<IWICBitmapFrameEncode> frame;
-    Com<IWICBitmap> pixels;
-    return codecs->CreateStream(file.Out()) == S_OK &&
+    ComPtr<IWICImagingFactory> codecs;
+    ComPtr<IWICStream> file;
+    ComPtr<IWICBitmapEncoder> encoder;
+    ComPtr<IWICBitmapFrameEncode> frame;
+    ComPtr<IWICBitmap> pixels;
+    return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                            IID_IWICImagingFactory, &codecs) == S_OK &&
+           codecs->CreateStream(&file) == S_OK &&
            file->InitializeFromFilename(win32::ToWide(path).c_str(), GENERIC_WRITE) == S_OK &&
-           codecs->CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.Out()) == S_OK &&
+           codecs->CreateEncoder(GUID_ContainerFormatPng, nullptr, &encoder) == S_OK &&
            encoder->Initialize(file.Get(), WICBitmapEncoderNoCache) == S_OK &&
-           encoder->CreateNewFrame(frame.Out(), nullptr) == S_OK &&
-           frame->Initialize(nullptr) == S_OK &&
-           codecs->CreateBitmapFromHBITMAP(bitmap.get(), nullptr, WICBitmapIgnoreAlpha,
-                                           pixels.Out()) == S_OK &&
+           encoder->CreateNewFrame(&frame, nullptr) == S_OK && frame->Initialize(nullptr) == S_OK &&
+           codecs->CreateBitmapFromHBITMAP(bitmap.get(), nullptr, WICBitmapIgnoreAlpha, &pixels) ==
+               S_OK &&
            frame->WriteSource(pixels.Get(), nullptr) == S_OK && frame->Commit() == S_OK &&
            encoder->Commit() == S_OK;
 }

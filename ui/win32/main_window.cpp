@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/win32/accessible.h"
-#include "ui/win32/screen.h"
+#include "ui/win32/pictures.h"
+#include "ui/win32/surroundings.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
@@ -49,7 +49,7 @@ void LoadControls() {
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     : model_(model),
       follower_(model, *this, std::move(clock)),
-      look_{model, follower_, [this] { return inSystem_ == 0; }, nullptr} {
+      look_{model, follower_, focused_, [this] { return inSystem_ == 0; }, nullptr} {
     LoadControls();
     RegisterOnce(Receive);
     handle_ = CreateWindowExW(0, kClass, nullptr, kFrame, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
@@ -83,7 +83,7 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     switch (message) {
         case WM_COMMAND:
             if (HIWORD(first) == BN_CLICKED && second != 0)
-                SendMessageW(reinterpret_cast<HWND>(second), kPressed, 0, 0);
+                PostMessageW(reinterpret_cast<HWND>(second), kPress, 0, 0);
             return 0;
         case WM_CLOSE:  // sent from within the system's own loop
             PostMessageW(handle_, kCloseAsked, 0, 0);
@@ -98,9 +98,6 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
             return 0;
         case WM_ACTIVATE:
             if (LOWORD(first) != WA_INACTIVE && HIWORD(first) == 0) Focus(focused_);
-            return 0;
-        case kFocusCame:
-            FocusMoved(reinterpret_cast<HWND>(first));
             return 0;
         case WM_KEYDOWN:
             if (first == VK_TAB) MoveFocus(GetKeyState(VK_SHIFT) < 0);
@@ -147,13 +144,15 @@ LRESULT MainWindow::LeaveToSystem(UINT message, WPARAM first, LPARAM second) {
     return result;
 }
 
+// A panel has no window of its own: what changes in it changes in its bar.
 void MainWindow::Apply(const Control& control, Aspect aspect) {
+    const auto found = drawn_.find(&control);
     if (&control == &model_) {
         ApplyToWindow(aspect);
     } else {
-        drawn_.at(&control)->Apply(aspect);
+        (found == drawn_.end() ? drawn_.at(control.Container) : found->second)->Apply(aspect);
     }
-    taskbar_.Show(handle_, RunProgressOf(model_));
+    ShowInTaskbar();
 }
 
 void MainWindow::Refit(const Label& label) {
@@ -166,12 +165,6 @@ void MainWindow::Focus(const Button* button) {
     if (GetActiveWindow() == handle_) SetFocus(button ? HandleOf(*button) : handle_);
 }
 
-void MainWindow::FocusMoved(HWND to) {
-    for (const Button* button : follower_.TabOrder()) {
-        if (HandleOf(*button) == to) focused_ = button;
-    }
-}
-
 void MainWindow::MoveFocus(bool backwards) {
     std::vector<const Button*> order = follower_.TabOrder();
     if (backwards) std::reverse(order.begin(), order.end());
@@ -182,24 +175,8 @@ void MainWindow::MoveFocus(bool backwards) {
     if (found != order.end()) Focus(*found);
 }
 
-void MainWindow::CallForAttention() {
-    TaskbarButton::CallForAttention(handle_);
-}
-
-bool MainWindow::IsHeard() const {
-    return win32::IsHeard();
-}
-
 void MainWindow::SpeakSoon() {
     PostMessageW(handle_, kSpeak, 0, 0);
-}
-
-void MainWindow::Describe(const Button& button, const std::string& news) {
-    win32::Describe(HandleOf(button), news);
-}
-
-void MainWindow::Announce(const Button& button, const std::string& news) {
-    win32::Announce(HandleOf(button), news);
 }
 
 double MainWindow::DotsPerInch() const {

@@ -1,0 +1,125 @@
+// What the window has to do with what is around it: the screen, the taskbar and a screen reader.
+#include "ui/win32/surroundings.h"
+
+#include <oleacc.h>
+#include <shobjidl.h>
+#include <wrl/client.h>
+
+#include <algorithm>
+
+#include "ui/win32/main_window.h"
+#include "ui/win32/utf16.h"
+
+namespace keplin::win32 {
+namespace {
+
+using Microsoft::WRL::ComPtr;
+
+constexpr const wchar_t* kAutomation = L"uiautomationcore.dll";
+
+// A function that not every system has; nullptr where it is missing. `Function` is its type.
+template <typename Function>
+Function* SystemCall(const wchar_t* library, const char* name) {
+    const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (module == nullptr) return nullptr;
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
+// False on a system that has no such notification.
+bool Notify(HWND control, const std::string& text) {
+    using Provider = IUnknown;  // what a control is told of by
+    static const auto provide =
+        SystemCall<HRESULT WINAPI(HWND, Provider**)>(kAutomation, "UiaHostProviderFromHwnd");
+    static const auto raise = SystemCall<HRESULT WINAPI(Provider*, int, int, BSTR, BSTR)>(
+        kAutomation, "UiaRaiseNotificationEvent");
+    constexpr int kKindOther = 4;
+    constexpr int kProcessAll = 2;  // none is left out over the next
+    using Text = Owned<BSTR, SysFreeString>;
+    ComPtr<Provider> provider;
+    if (!provide || !raise || provide(control, &provider) != S_OK) return false;
+    const Text spoken(SysAllocString(ToWide(text).c_str()));
+    const Text activity(SysAllocString(L"keplin.news"));
+    return raise(provider.Get(), kKindOther, kProcessAll, spoken.get(), activity.get()) == S_OK;
+}
+
+TBPFLAG FlagOf(RunProgress::State state) {
+    switch (state) {
+        case RunProgress::State::UnderWay:
+            return TBPF_NORMAL;
+        case RunProgress::State::Stopped:
+            return TBPF_ERROR;
+        default:
+            return TBPF_NOPROGRESS;
+    }
+}
+
+}  // namespace
+
+PixelRect WorkAreaOf(HWND window) {
+    MONITORINFO screen{};
+    screen.cbSize = sizeof screen;
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &screen);
+    const RECT& work = screen.rcWork;
+    return {work.left, work.top, work.right - work.left, work.bottom - work.top};
+}
+
+// One for all screens where the system knows no other.
+UINT ScreenDotsOf(HWND window) {
+    static const auto ask = SystemCall<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
+    if (ask) return ask(window);
+    const MemoryContext screen(CreateCompatibleDC(nullptr));
+    return static_cast<UINT>(GetDeviceCaps(screen.get(), LOGPIXELSY));
+}
+
+double TextSize() {
+    constexpr DWORD kUsual = 100;  // percent
+    DWORD percent = 0;
+    DWORD size = sizeof percent;
+    RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Accessibility", L"TextScaleFactor",
+                 RRF_RT_REG_DWORD, nullptr, &percent, &size);
+    return double(std::max(percent, kUsual)) / kUsual;
+}
+
+// How an update stands, on the window's button; red where it stopped.
+void MainWindow::ShowInTaskbar() {
+    const RunProgress progress = RunProgressOf(model_);
+    if (progress == inTaskbar_) return;
+    static const auto taskbar = [] {
+        ComPtr<ITaskbarList3> found;
+        CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskbarList3,
+                         &found);
+        return found;
+    }();
+    if (!taskbar) return;
+    inTaskbar_ = progress;
+    if (progress.state != RunProgress::State::None)
+        taskbar->SetProgressValue(handle_, static_cast<ULONGLONG>(progress.percent), 100);
+    taskbar->SetProgressState(handle_, FlagOf(progress.state));
+}
+
+void MainWindow::CallForAttention() {
+    if (GetForegroundWindow() == handle_) return;
+    FLASHWINFO flash{sizeof flash, handle_, FLASHW_ALL | FLASHW_TIMERNOFG, 0, 0};
+    FlashWindowEx(&flash);
+}
+
+bool MainWindow::IsHeard() const {
+    static const auto listening = SystemCall<BOOL WINAPI()>(kAutomation, "UiaClientsAreListening");
+    BOOL reader = FALSE;
+    SystemParametersInfoW(SPI_GETSCREENREADER, 0, &reader, 0);
+    return reader || (listening && listening());
+}
+
+void MainWindow::Describe(const Button& button, const std::string& news) {
+    Annotate(HandleOf(button), PROPID_ACC_DESCRIPTION, news);
+}
+
+// Where there are no notifications, a reader of those days reads the description again.
+void MainWindow::Announce(const Button& button, const std::string& news) {
+    const HWND control = HandleOf(button);
+    if (Notify(control, news)) return;
+    for (const DWORD event : {EVENT_OBJECT_DESCRIPTIONCHANGE, EVENT_OBJECT_LIVEREGIONCHANGED})
+        NotifyWinEvent(event, control, OBJID_CLIENT, CHILDID_SELF);
+}
+
+}  // namespace keplin::win32
