@@ -1,47 +1,15 @@
 #include "device/win32/win32_port.h"
 
 namespace keplin {
-namespace {
 
-// The loader knows no other speed.
-constexpr std::int32_t kBitsPerSecond = 38400;
-
-}  // namespace
-
-Win32Port::~Win32Port() {
-    CloseLine();
-}
-
-std::int32_t Win32Port::Open() {
-    Close();
-    const std::string& name = names_.Choose(portNumber_);
-    return lineSpeed_ == kBitsPerSecond && OpenNamed(name) ? 1 : 0;
-}
-
-bool Win32Port::OpenNamed(const std::string& name) {
-    if (name.empty()) return false;
-    line_ = OpenLine(name);
-    if (!line_) return false;
-    lost_ = false;
-    idle_ = true;
-    return true;
-}
-
-std::int32_t Win32Port::Close() {
-    CloseLine();
-    lost_ = false;
-    return 0;
+bool Win32Port::OpenLine(const std::string& name) {
+    line_ = keplin::OpenLine(name);
+    return IsOpen();
 }
 
 void Win32Port::CloseLine() noexcept {
     unread_ = {};
     ClosePromptly(std::move(line_));
-}
-
-// At once: as long as a handle is open, the adapter gets another name when it comes back.
-void Win32Port::LoseLine() noexcept {
-    CloseLine();
-    lost_ = true;
 }
 
 // The one call that also tells of a far end that hung up.
@@ -67,14 +35,8 @@ void Win32Port::ReadBlock() {
     if (count == 0) CheckLine();
 }
 
-void Win32Port::WriteByte(std::uint8_t byte) {
-    const char character = static_cast<char>(byte);
-    WriteText({&character, 1});
-}
-
 void Win32Port::WriteText(std::string_view text) {
-    if (!line_) throw PortError(lost_ ? "the line is lost" : "the port is not open");
-    idle_ = true;
+    BeginWrite();
     DWORD taken = 0;
     if (!WriteFile(line_.get(), text.data(), static_cast<DWORD>(text.size()), &taken, nullptr)) {
         LoseLine();
@@ -96,11 +58,6 @@ void Win32Port::DiscardInput() {
     } else {
         LoseLine();
     }
-}
-
-void Win32Port::ReopenLostLine() {
-    DiscardInput();
-    if (lost_) OpenNamed(names_.FindAgain());
 }
 
 }  // namespace keplin
