@@ -1,15 +1,15 @@
 #include "demo/win32/save_picture.h"
 
 #include <wincodec.h>
-#include <wrl/client.h>
 
 #include "ui/win32/gdi.h"
+#include "ui/win32/object.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin {
 namespace {
 
-using Microsoft::WRL::ComPtr;
+using win32::Object;
 
 win32::Gdi<HBITMAP> Photograph(HWND window) {
     const PixelSize size = win32::InsideOf(window);
@@ -26,14 +26,14 @@ win32::Gdi<HBITMAP> Photograph(HWND window) {
 
 bool SavePicture(HWND window, const std::string& path) {
     const auto bitmap = Photograph(window);
-    ComPtr<IWICImagingFactory> codecs;
-    ComPtr<IWICStream> file;
-    ComPtr<IWICBitmapEncoder> encoder;
-    ComPtr<IWICBitmapFrameEncode> frame;
-    ComPtr<IWICBitmap> pixels;
-    return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                            IID_IWICImagingFactory, &codecs) == S_OK &&
-           codecs->CreateStream(&file) == S_OK &&
+    const auto codecs =
+        win32::ObjectOf<IWICImagingFactory>(CLSID_WICImagingFactory, IID_IWICImagingFactory);
+    if (!codecs) return false;
+    Object<IWICStream> file;
+    Object<IWICBitmapEncoder> encoder;
+    Object<IWICBitmapFrameEncode> frame;
+    Object<IWICBitmap> pixels;
+    return codecs->CreateStream(&file) == S_OK &&
            file->InitializeFromFilename(win32::ToWide(path).c_str(), GENERIC_WRITE) == S_OK &&
            codecs->CreateEncoder(GUID_ContainerFormatPng, nullptr, &encoder) == S_OK &&
            encoder->Initialize(file.Get(), WICBitmapEncoderNoCache) == S_OK &&

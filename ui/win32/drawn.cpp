@@ -4,15 +4,18 @@
 #include <initguid.h>
 // In this order.
 #include <oleacc.h>
-#include <wrl/client.h>
 
+#include "ui/win32/object.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
 
-void Drawn::Create(HWND container, const wchar_t* windowClass, DWORD style) {
-    handle_ = CreateWindowExW(0, windowClass, nullptr, WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 0,
-                              0, container, nullptr, GetModuleHandleW(nullptr), nullptr);
+Drawn::Drawn(const Control& control, const Look& look, HWND container, const wchar_t* windowClass,
+             DWORD style)
+    : control_(control),
+      look_(look),
+      handle_(CreateWindowExW(0, windowClass, nullptr, WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 0,
+                              0, container, nullptr, GetModuleHandleW(nullptr), nullptr)) {
     SetWindowSubclass(handle_, Receive, 0, reinterpret_cast<DWORD_PTR>(this));
     SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
@@ -118,12 +121,8 @@ void Painted::PaintAll() {
 }
 
 void Annotate(HWND control, const GUID& property, const std::string& text) {
-    static const auto properties = [] {
-        Microsoft::WRL::ComPtr<IAccPropServices> found;
-        CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
-                         &found);
-        return found;
-    }();
+    static const auto properties =
+        ObjectOf<IAccPropServices>(CLSID_AccPropServices, IID_IAccPropServices);
     const auto object = static_cast<DWORD>(OBJID_CLIENT);
     if (!properties) return;
     properties->SetHwndPropStr(control, object, CHILDID_SELF, property, ToWide(text).c_str());

@@ -39,7 +39,9 @@ inline constexpr UINT kSpeak = WM_APP + 2;       // to the window: there is news
 
 class Drawn {
   public:
-    Drawn(const Control& control, const Look& look) : control_(control), look_(look) {}
+    // Made of the system's control of that class, above those that stand in the container already.
+    Drawn(const Control& control, const Look& look, HWND container, const wchar_t* windowClass,
+          DWORD style);
     virtual ~Drawn() = default;
     Drawn(const Drawn&) = delete;
     Drawn& operator=(const Drawn&) = delete;
@@ -55,8 +57,6 @@ class Drawn {
     [[nodiscard]] HWND Handle() const { return handle_; }
 
   protected:
-    // Makes the system's control of that class, above those that stand in the container already.
-    void Create(HWND container, const wchar_t* windowClass, DWORD style);
     void SetText(const std::string& text) const;
     void SetPlace(const PixelRect& place, UINT flags = 0) const;
     void Repaint() const { InvalidateRect(handle_, nullptr, FALSE); }
@@ -84,7 +84,7 @@ class Drawn {
                                     UINT_PTR id, DWORD_PTR self);
     static constexpr UINT_PTR kTimer = 470;  // clear of those that the system's controls have
 
-    HWND handle_ = nullptr;
+    const HWND handle_;
     HWND tips_ = nullptr;  // made with the first tool tip; belongs to the control's window
 };
 

@@ -57,4 +57,11 @@ inline void Outline(HDC context, const RECT& rect, COLORREF colour) {
     FrameRect(context, &rect, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
+// Draws the picture from the top-left corner, in that size.
+void DrawImage(HDC context, Picture::Image image, PixelSize size);
+
+// The program's icon, as wide as one of these two of the system: SM_CXICON or SM_CXSMICON. The
+// system keeps it.
+HICON ProgramIcon(int size);
+
 }  // namespace keplin::win32

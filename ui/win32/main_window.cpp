@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/win32/pictures.h"
-#include "ui/win32/surroundings.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
@@ -30,32 +28,19 @@ void RegisterOnce(WNDPROC receive) {
     RegisterClassExW(&kind);
 }
 
-PixelSize OuterSizeOf(HWND window) {
-    RECT outer{};
-    GetWindowRect(window, &outer);
-    return {outer.right - outer.left, outer.bottom - outer.top};
-}
-
-// The classes of the system's controls are known after this.
-void LoadControls() {
-    INITCOMMONCONTROLSEX classes{};
-    classes.dwSize = sizeof classes;
-    classes.dwICC = ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_PROGRESS_CLASS;
-    InitCommonControlsEx(&classes);
-}
-
 }  // namespace
 
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     : model_(model),
       follower_(model, *this, std::move(clock)),
       look_{model, follower_, focused_, [this] { return inSystem_ == 0; }, nullptr} {
-    LoadControls();
+    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
+    InitCommonControlsEx(&classes);
     RegisterOnce(Receive);
     handle_ = CreateWindowExW(0, kClass, nullptr, kFrame, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
                               nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    screenDots_ = ScreenDotsOf(handle_);
+    screenDots_ = ScreenDots();
     Measure();
     drawn_ = MakeControls(handle_, look_);
     // The focus shows from the start, not only after the first use of the keyboard.
@@ -155,10 +140,6 @@ void MainWindow::Apply(const Control& control, Aspect aspect) {
     ShowInTaskbar();
 }
 
-void MainWindow::Refit(const Label& label) {
-    drawn_.at(&label)->Refit();
-}
-
 // To a window that is not the active one the focus comes as soon as it is.
 void MainWindow::Focus(const Button* button) {
     focused_ = button;
@@ -173,15 +154,6 @@ void MainWindow::MoveFocus(bool backwards) {
     const auto found = std::find_if(order.begin(), order.end(),
                                     [](const Button* button) { return button->CanBePressed(); });
     if (found != order.end()) Focus(*found);
-}
-
-void MainWindow::SpeakSoon() {
-    PostMessageW(handle_, kSpeak, 0, 0);
-}
-
-double MainWindow::DotsPerInch() const {
-    const PixelRect screen = WorkAreaOf(handle_);
-    return FittingDotsPerInch(screenDots_ * TextSize(), {screen.width, screen.height}, model_);
 }
 
 void MainWindow::Measure() {
@@ -207,25 +179,6 @@ void MainWindow::ApplyToWindow(Aspect aspect) {
     if (aspect == Aspect::WindowState && form.WindowState.Get() == Form::State::Minimised) {
         ShowWindow(handle_, SW_MINIMIZE);
     }
-}
-
-// What the frame takes is known from the window itself; once it is larger the frame may be another.
-void MainWindow::ApplySize() const {
-    const PixelSize wanted = Now().scale.ClientSize(model_);
-    for (int pass = 0; pass < 2; ++pass) {
-        const PixelSize outer = OuterSizeOf(handle_);
-        const PixelSize inside = InsideOf(handle_);
-        SetWindowPos(handle_, nullptr, 0, 0, outer.width - inside.width + wanted.width,
-                     outer.height - inside.height + wanted.height,
-                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-}
-
-void MainWindow::ShowCentred() const {
-    const PixelRect place = Centred(OuterSizeOf(handle_), WorkAreaOf(handle_));
-    SetWindowPos(handle_, nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    ShowWindow(handle_, SW_SHOWNORMAL);
-    UpdateWindow(handle_);
 }
 
 }  // namespace keplin::win32

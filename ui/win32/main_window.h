@@ -34,12 +34,12 @@ class MainWindow final : public Drawing {
     std::function<void()> OnHelp;
 
     void Apply(const Control& control, Aspect aspect) override;
-    void Refit(const Label& label) override;
+    void Refit(const Label& label) override { drawn_.at(&label)->Refit(); }
     [[nodiscard]] const Button* Focused() const override { return focused_; }
     void Focus(const Button* button) override;
     void CallForAttention() override;
     [[nodiscard]] bool IsHeard() const override;
-    void SpeakSoon() override;
+    void SpeakSoon() override { PostMessageW(handle_, kSpeak, 0, 0); }
     void Describe(const Button& button, const std::string& news) override;
     void Announce(const Button& button, const std::string& news) override;
 
@@ -50,6 +50,7 @@ class MainWindow final : public Drawing {
     void MoveFocus(bool backwards);
     void ShowInTaskbar();
 
+    [[nodiscard]] UINT ScreenDots() const;
     [[nodiscard]] double DotsPerInch() const;
     void Measure();
     void Rescale();

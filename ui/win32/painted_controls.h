@@ -4,15 +4,16 @@
 #include "ui/page_look.h"
 #include "ui/throttle.h"
 #include "ui/win32/drawn.h"
-#include "ui/win32/pictures.h"
 
 namespace keplin::win32 {
 
 // Keeps its colour whatever the system's are; what stands on it keeps the system's.
 class Container : public Painted {
   public:
-    Container(const Control& control, Colour background, const Look& look)
-        : Painted(control, look), background_(ToRef(background)) {}
+    Container(const Control& control, Colour background, const Look& look, HWND container,
+              const wchar_t* windowClass, DWORD style)
+        : Painted(control, look, container, windowClass, style | WS_CLIPCHILDREN),
+          background_(ToRef(background)) {}
 
   protected:
     void Paint(HDC context, const RECT& inside) override { Fill(context, inside, background_); }
@@ -32,18 +33,15 @@ class Container : public Painted {
 class PageControl final : public Container {
   public:
     PageControl(const Page& page, const Look& look, HWND container)
-        : Container(page, page.Background, look) {
-        Create(container, L"STATIC", WS_CLIPCHILDREN);
-    }
+        : Container(page, page.Background, look, container, L"STATIC", 0) {}
 };
 
 // A group box to the screen reader; painted plainly, so that its inside is the whole place.
 class FrameControl final : public Container {
   public:
     FrameControl(const Frame& frame, const Look& look, HWND container)
-        : Container(frame, frame.Background, look), frame_(frame) {
-        Create(container, L"BUTTON", BS_GROUPBOX | WS_CLIPCHILDREN);
-    }
+        : Container(frame, frame.Background, look, container, L"BUTTON", BS_GROUPBOX),
+          frame_(frame) {}
 
   protected:
     void Paint(HDC context, const RECT& inside) override {
@@ -73,9 +71,7 @@ inline COLORREF BackgroundIn(const Control* container) {
 class LabelControl final : public Painted {
   public:
     LabelControl(const Label& label, const Look& look, HWND container)
-        : Painted(label, look), label_(label) {
-        Create(container, L"STATIC", SS_NOPREFIX);
-    }
+        : Painted(label, look, container, L"STATIC", SS_NOPREFIX), label_(label) {}
 
     void Apply(Aspect aspect) override {
         Painted::Apply(aspect);
@@ -108,9 +104,7 @@ class LabelControl final : public Painted {
 class PictureControl final : public Painted {
   public:
     PictureControl(const Picture& picture, const Look& look, HWND container)
-        : Painted(picture, look), picture_(picture) {
-        Create(container, L"STATIC", SS_NOPREFIX);
-    }
+        : Painted(picture, look, container, L"STATIC", SS_NOPREFIX), picture_(picture) {}
 
   protected:
     void Paint(HDC context, const RECT& inside) override {
@@ -127,9 +121,7 @@ class PictureControl final : public Painted {
 class ShapeControl final : public Painted {
   public:
     ShapeControl(const Shape& shape, const Look& look, HWND container)
-        : Painted(shape, look), shape_(shape) {
-        Create(container, L"STATIC", 0);
-    }
+        : Painted(shape, look, container, L"STATIC", 0), shape_(shape) {}
 
     void Apply(Aspect aspect) override {
         if (aspect != Aspect::Left) {

@@ -1,6 +1,6 @@
-#include "ui/win32/pictures.h"
-
 #include <string>
+
+#include "ui/win32/gdi.h"
 
 namespace keplin::win32 {
 namespace {

@@ -1,19 +1,15 @@
 // What the window has to do with what is around it: the screen, the taskbar and a screen reader.
-#include "ui/win32/surroundings.h"
-
 #include <oleacc.h>
 #include <shobjidl.h>
-#include <wrl/client.h>
 
 #include <algorithm>
 
 #include "ui/win32/main_window.h"
+#include "ui/win32/object.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
 namespace {
-
-using Microsoft::WRL::ComPtr;
 
 constexpr const wchar_t* kAutomation = L"uiautomationcore.dll";
 
@@ -35,7 +31,7 @@ bool Notify(HWND control, const std::string& text) {
     constexpr int kKindOther = 4;
     constexpr int kProcessAll = 2;  // none is left out over the next
     using Text = Owned<BSTR, SysFreeString>;
-    ComPtr<Provider> provider;
+    Object<Provider> provider;
     if (!provide || !raise || provide(control, &provider) != S_OK) return false;
     const Text spoken(SysAllocString(ToWide(text).c_str()));
     const Text activity(SysAllocString(L"keplin.news"));
@@ -53,24 +49,25 @@ TBPFLAG FlagOf(RunProgress::State state) {
     }
 }
 
-}  // namespace
+PixelRect FromRect(const RECT& rect) {
+    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+}
 
+PixelRect OuterPlaceOf(HWND window) {
+    RECT outer{};
+    GetWindowRect(window, &outer);
+    return FromRect(outer);
+}
+
+// The part of the screen that windows may take.
 PixelRect WorkAreaOf(HWND window) {
     MONITORINFO screen{};
     screen.cbSize = sizeof screen;
     GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &screen);
-    const RECT& work = screen.rcWork;
-    return {work.left, work.top, work.right - work.left, work.bottom - work.top};
+    return FromRect(screen.rcWork);
 }
 
-// One for all screens where the system knows no other.
-UINT ScreenDotsOf(HWND window) {
-    static const auto ask = SystemCall<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
-    if (ask) return ask(window);
-    const MemoryContext screen(CreateCompatibleDC(nullptr));
-    return static_cast<UINT>(GetDeviceCaps(screen.get(), LOGPIXELSY));
-}
-
+// How much larger than usual the technician has set texts; 1 is usual.
 double TextSize() {
     constexpr DWORD kUsual = 100;  // percent
     DWORD percent = 0;
@@ -80,16 +77,46 @@ double TextSize() {
     return double(std::max(percent, kUsual)) / kUsual;
 }
 
+}  // namespace
+
+// One for all screens where the system knows no other.
+UINT MainWindow::ScreenDots() const {
+    static const auto ask = SystemCall<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
+    if (ask) return ask(handle_);
+    const MemoryContext screen(CreateCompatibleDC(nullptr));
+    return static_cast<UINT>(GetDeviceCaps(screen.get(), LOGPIXELSY));
+}
+
+double MainWindow::DotsPerInch() const {
+    const PixelRect screen = WorkAreaOf(handle_);
+    return FittingDotsPerInch(screenDots_ * TextSize(), {screen.width, screen.height}, model_);
+}
+
+// What the frame takes is known from the window itself; once it is larger the frame may be another.
+void MainWindow::ApplySize() const {
+    const PixelSize wanted = Now().scale.ClientSize(model_);
+    for (int pass = 0; pass < 2; ++pass) {
+        const PixelRect outer = OuterPlaceOf(handle_);
+        const PixelSize inside = InsideOf(handle_);
+        SetWindowPos(handle_, nullptr, 0, 0, outer.width - inside.width + wanted.width,
+                     outer.height - inside.height + wanted.height,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+void MainWindow::ShowCentred() const {
+    const PixelRect outer = OuterPlaceOf(handle_);
+    const PixelRect place = Centred({outer.width, outer.height}, WorkAreaOf(handle_));
+    SetWindowPos(handle_, nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    ShowWindow(handle_, SW_SHOWNORMAL);
+    UpdateWindow(handle_);
+}
+
 // How an update stands, on the window's button; red where it stopped.
 void MainWindow::ShowInTaskbar() {
     const RunProgress progress = RunProgressOf(model_);
     if (progress == inTaskbar_) return;
-    static const auto taskbar = [] {
-        ComPtr<ITaskbarList3> found;
-        CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskbarList3,
-                         &found);
-        return found;
-    }();
+    static const auto taskbar = ObjectOf<ITaskbarList3>(CLSID_TaskbarList, IID_ITaskbarList3);
     if (!taskbar) return;
     inTaskbar_ = progress;
     if (progress.state != RunProgress::State::None)

@@ -20,9 +20,7 @@ namespace keplin::win32 {
 class ButtonControl final : public Drawn {
   public:
     ButtonControl(const Button& button, const Look& look, HWND container)
-        : Drawn(button, look), button_(button) {
-        Create(container, L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP);
-    }
+        : Drawn(button, look, container, L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP), button_(button) {}
 
   protected:
     // To the system a single ampersand would be the mark of a shortcut.
@@ -74,8 +72,7 @@ class ButtonControl final : public Drawn {
 class ProgressBarControl final : public Drawn {
   public:
     ProgressBarControl(const ProgressBar& bar, const Look& look, HWND container)
-        : Drawn(bar, look), bar_(bar) {
-        Create(container, PROGRESS_CLASSW, PBS_SMOOTH);
+        : Drawn(bar, look, container, PROGRESS_CLASSW, PBS_SMOOTH), bar_(bar) {
         ShowSteps(StepsDone(bar));
     }
 
@@ -121,9 +118,8 @@ class ProgressBarControl final : public Drawn {
 class StatusBarControl final : public Drawn {
   public:
     StatusBarControl(const StatusBar& bar, const Look& look, HWND container)
-        : Drawn(bar, look), bar_(bar) {
-        Create(container, STATUSCLASSNAMEW, CCS_NORESIZE | CCS_NOPARENTALIGN);
-    }
+        : Drawn(bar, look, container, STATUSCLASSNAMEW, CCS_NORESIZE | CCS_NOPARENTALIGN),
+          bar_(bar) {}
 
     void Apply(Aspect aspect) override {
         Drawn::Apply(aspect);
@@ -165,9 +161,7 @@ class StatusBarControl final : public Drawn {
 class TimerControl final : public Drawn {
   public:
     TimerControl(const Timer& timer, const Look& look, HWND window)
-        : Drawn(timer, look), timer_(timer) {
-        Create(window, L"STATIC", 0);
-    }
+        : Drawn(timer, look, window, L"STATIC", 0), timer_(timer) {}
 
     void Apply(Aspect) override {
         timer_.Enabled ? StartTimer(std::chrono::milliseconds(timer_.Interval)) : StopTimer();
