@@ -6,8 +6,8 @@
 #include <span>
 
 #include "device/line_port.h"
-#include "device/win32/line.h"
 #include "platform/watched_line.h"
+#include "platform/win32/owned.h"
 
 namespace keplin {
 
@@ -24,6 +24,8 @@ class Win32Port : public LinePort<WatchedLine> {
     void CheckLine() noexcept override;
 
   private:
+    // False when there is no such port, another program holds it, it does not take the settings or
+    // has not opened after 2 s: the port of a radio may look that long for its far end.
     bool OpenLine(const std::string& name) override;
     void CloseLine() noexcept override;
     [[nodiscard]] bool IsOpen() const override { return line_ != nullptr; }

@@ -76,8 +76,8 @@ TEST_F(ComPort, IsOpenOnlyWhereThereIsOneAtTheLoadersSettings) {
     EXPECT_THROW(port.WriteByte(0x55), PortError);
 
     const auto device = [] {
-        return UniqueHandle(CreateFileW(L"\\\\.\\COM3", GENERIC_READ | GENERIC_WRITE, 0, nullptr,
-                                        OPEN_EXISTING, 0, nullptr));
+        return Own(CreateFileW(L"\\\\.\\COM3", GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                               OPEN_EXISTING, 0, nullptr));
     };
     DCB settings{};
     settings.DCBlength = sizeof settings;

@@ -3,6 +3,7 @@
 #include <shobjidl.h>
 
 #include <algorithm>
+#include <array>
 
 #include "ui/win32/main_window.h"
 #include "ui/win32/object.h"
@@ -36,17 +37,6 @@ bool Notify(HWND control, const std::string& text) {
     const Text spoken(SysAllocString(ToWide(text).c_str()));
     const Text activity(SysAllocString(L"keplin.news"));
     return raise(provider.Get(), kKindOther, kProcessAll, spoken.get(), activity.get()) == S_OK;
-}
-
-TBPFLAG FlagOf(RunProgress::State state) {
-    switch (state) {
-        case RunProgress::State::UnderWay:
-            return TBPF_NORMAL;
-        case RunProgress::State::Stopped:
-            return TBPF_ERROR;
-        default:
-            return TBPF_NOPROGRESS;
-    }
 }
 
 PixelRect FromRect(const RECT& rect) {
@@ -121,7 +111,8 @@ void MainWindow::ShowInTaskbar() {
     inTaskbar_ = progress;
     if (progress.state != RunProgress::State::None)
         taskbar->SetProgressValue(handle_, static_cast<ULONGLONG>(progress.percent), 100);
-    taskbar->SetProgressState(handle_, FlagOf(progress.state));
+    constexpr std::array kFlags{TBPF_NOPROGRESS, TBPF_NORMAL, TBPF_ERROR};  // as State has them
+    taskbar->SetProgressState(handle_, kFlags.at(static_cast<std::size_t>(progress.state)));
 }
 
 void MainWindow::CallForAttention() {
