@@ -45,4 +45,8 @@ struct Rect {
 using PixelSize = Size<int>;
 using PixelRect = Rect<int>;
 
+inline Rect<double> Exactly(const PixelRect& rect) {
+    return {double(rect.left), double(rect.top), double(rect.width), double(rect.height)};
+}
+
 }  // namespace keplin

@@ -41,10 +41,6 @@ bool Covers(const Control& sibling, const Control& label) {
     return &sibling != &label && sibling.Visible && sibling.Container == label.Container;
 }
 
-Rect<double> Exactly(const PixelRect& rect) {
-    return {double(rect.left), double(rect.top), double(rect.width), double(rect.height)};
-}
-
 }  // namespace
 
 TextFit::TextFit(const std::vector<Control*>& controls, Scale scale, const TextMeasure& measure)

@@ -18,8 +18,7 @@ constexpr LONG kDown = -450;  // tenths of a degree
 class Ribbon final : public win32::Painted {
   public:
     Ribbon(const Control& place, const win32::Look& look, HWND window)
-        : win32::Painted(place, look) {
-        Create(window, L"STATIC", WS_VISIBLE);
+        : win32::Painted(place, look, window, L"STATIC", WS_VISIBLE) {
         SetText("Demonstration: nothing is sent to a controller");
         Rescale();
     }

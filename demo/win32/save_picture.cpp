@@ -2,14 +2,14 @@
 
 #include <wincodec.h>
 
-#include "ui/win32/com.h"
 #include "ui/win32/gdi.h"
+#include "ui/win32/object.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin {
 namespace {
 
-using win32::Com;
+using win32::Object;
 
 win32::Gdi<HBITMAP> Photograph(HWND window) {
     const PixelSize size = win32::InsideOf(window);
@@ -27,20 +27,19 @@ win32::Gdi<HBITMAP> Photograph(HWND window) {
 bool SavePicture(HWND window, const std::string& path) {
     const auto bitmap = Photograph(window);
     const auto codecs =
-        Com<IWICImagingFactory>::Make(CLSID_WICImagingFactory, IID_IWICImagingFactory);
+        win32::ObjectOf<IWICImagingFactory>(CLSID_WICImagingFactory, IID_IWICImagingFactory);
     if (!codecs) return false;
-    Com<IWICStream> file;
-    Com<IWICBitmapEncoder> encoder;
-    Com<IWICBitmapFrameEncode> frame;
-    Com<IWICBitmap> pixels;
-    return codecs->CreateStream(file.Out()) == S_OK &&
+    Object<IWICStream> file;
+    Object<IWICBitmapEncoder> encoder;
+    Object<IWICBitmapFrameEncode> frame;
+    Object<IWICBitmap> pixels;
+    return codecs->CreateStream(&file) == S_OK &&
            file->InitializeFromFilename(win32::ToWide(path).c_str(), GENERIC_WRITE) == S_OK &&
-           codecs->CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.Out()) == S_OK &&
+           codecs->CreateEncoder(GUID_ContainerFormatPng, nullptr, &encoder) == S_OK &&
            encoder->Initialize(file.Get(), WICBitmapEncoderNoCache) == S_OK &&
-           encoder->CreateNewFrame(frame.Out(), nullptr) == S_OK &&
-           frame->Initialize(nullptr) == S_OK &&
-           codecs->CreateBitmapFromHBITMAP(bitmap.get(), nullptr, WICBitmapIgnoreAlpha,
-                                           pixels.Out()) == S_OK &&
+           encoder->CreateNewFrame(&frame, nullptr) == S_OK && frame->Initialize(nullptr) == S_OK &&
+           codecs->CreateBitmapFromHBITMAP(bitmap.get(), nullptr, WICBitmapIgnoreAlpha, &pixels) ==
+               S_OK &&
            frame->WriteSource(pixels.Get(), nullptr) == S_OK && frame->Commit() == S_OK &&
            encoder->Commit() == S_OK;
 }

@@ -22,8 +22,6 @@ using std::chrono::steady_clock;
 // this is stuck.
 constexpr std::chrono::milliseconds kWriteBound{500};
 
-// The loader knows no other speed.
-constexpr std::int32_t kBitsPerSecond = 38400;
 constexpr speed_t kSpeed = B38400;
 
 bool HasModemLines(int line) {
@@ -97,33 +95,12 @@ bool IsHungUp(int line) {
 
 }  // namespace
 
-PosixPort::PosixPort(DevicePaths devicePaths, std::filesystem::path lockFolder)
-    : paths_(std::move(devicePaths)), lockFolder_(std::move(lockFolder)) {}
-
-PosixPort::~PosixPort() {
-    CloseLine();
-}
-
-std::int32_t PosixPort::Open() {
-    Close();
-    const std::string& path = paths_.Choose(portNumber_);
-    return lineSpeed_ == kBitsPerSecond && OpenLine(path) ? 1 : 0;
-}
-
 bool PosixPort::OpenLine(const std::string& path) {
     if (IsLockedByProcess(path, lockFolder_)) return false;
     line_ = OpenDevice(path);
     if (!line_) return false;
-    lost_ = false;
-    idle_ = true;
     if (OnLineChange) OnLineChange(line_.Get());
     return true;
-}
-
-std::int32_t PosixPort::Close() {
-    CloseLine();
-    lost_ = false;
-    return 0;
 }
 
 void PosixPort::CloseLine() noexcept {
@@ -132,12 +109,6 @@ void PosixPort::CloseLine() noexcept {
     // Where another program has the device open too, it would stay closed to the next opening.
     ioctl(line_.Get(), TIOCNXCL);
     ClosePromptly(std::move(line_));
-}
-
-void PosixPort::LoseLine() noexcept {
-    // At once: as long as a descriptor is open, the adapter gets another name when it comes back.
-    CloseLine();
-    lost_ = true;
 }
 
 void PosixPort::CheckLine() noexcept {
@@ -156,18 +127,8 @@ std::int32_t PosixPort::ReadByte() {
     return -1;
 }
 
-void PosixPort::WriteByte(std::uint8_t byte) {
-    const char character = static_cast<char>(byte);
-    Write({&character, 1});
-}
-
-void PosixPort::WriteText(std::string_view text) {
-    Write(text);
-}
-
-void PosixPort::Write(std::string_view bytes) {
-    if (!line_) throw PortError(lost_ ? "the line is lost" : "the port is not open");
-    idle_ = true;
+void PosixPort::WriteText(std::string_view bytes) {
+    BeginWrite();
     const Moment deadline = steady_clock::now() + kWriteBound;
     bytes = WriteSome(bytes);
     while (!bytes.empty()) {
@@ -202,11 +163,6 @@ void PosixPort::DiscardInput() {
     if (!line_) return;
     idle_ = true;
     if (tcflush(line_.Get(), TCIFLUSH) != 0) LoseLine();
-}
-
-void PosixPort::ReopenLostLine() {
-    DiscardInput();
-    if (lost_) OpenLine(paths_.FindAgain());
 }
 
 }  // namespace keplin

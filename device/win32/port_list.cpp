@@ -3,17 +3,14 @@
 #include <windows.h>
 
 #include <array>
-#include <memory>
 
 #include "device/com_ports.h"
+#include "platform/win32/owned.h"
 
 namespace keplin {
 namespace {
 
-struct KeyCloser {
-    void operator()(HKEY key) const noexcept { RegCloseKey(key); }
-};
-using UniqueKey = std::unique_ptr<HKEY__, KeyCloser>;
+using UniqueKey = Owned<HKEY, RegCloseKey>;
 
 // One value for each device: its name is the driver's, its text the port's.
 UniqueKey OpenDeviceMap() {

@@ -1,49 +1,103 @@
 #include "device/win32/win32_port.h"
 
-#include "device/win32/line.h"
+#include <chrono>
+#include <cstring>
+#include <exception>
+#include <future>
+#include <thread>
 
 namespace keplin {
 namespace {
 
-// The loader knows no other speed.
-constexpr std::int32_t kBitsPerSecond = 38400;
+using namespace std::chrono_literals;
+
+// Starts the work in a thread of its own. Nobody has to wait for it: what it gives to nobody is
+// given up as it ends.
+template <typename Work>
+auto Start(Work work) {
+    std::packaged_task<decltype(work())()> task(std::move(work));
+    auto result = task.get_future();
+    std::thread(std::move(task)).detach();
+    return result;
+}
+
+// Without sharing: no other program gets in as long as it is open.
+UniqueHandle OpenDevice(const std::string& name) {
+    const std::wstring path = L"\\\\.\\" + std::wstring(name.begin(), name.end());
+    return Own(CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0,
+                           nullptr));
+}
+
+// Nothing holds back, changes or drops a byte.
+void SetRaw(DCB& settings) {
+    settings.BaudRate = CBR_38400;
+    settings.ByteSize = 8;
+    settings.Parity = NOPARITY;
+    settings.StopBits = ONESTOPBIT;
+    settings.fBinary = TRUE;
+    settings.fOutxCtsFlow = settings.fOutxDsrFlow = settings.fDsrSensitivity = FALSE;
+    settings.fOutX = settings.fInX = FALSE;
+    settings.fParity = settings.fErrorChar = settings.fNull = settings.fAbortOnError = FALSE;
+    settings.fDtrControl = DTR_CONTROL_ENABLE;
+    settings.fRtsControl = RTS_CONTROL_ENABLE;
+}
+
+// Setting may succeed where the driver took something else: only reading back tells.
+bool Configure(HANDLE line) {
+    DCB wanted{};
+    wanted.DCBlength = sizeof wanted;
+    if (!GetCommState(line, &wanted)) return false;  // a port that is not there may open
+    SetRaw(wanted);
+    DCB found = wanted;
+    if (!SetCommState(line, &wanted) || !GetCommState(line, &found)) return false;
+    wanted = found;
+    SetRaw(wanted);
+    return std::memcmp(&wanted, &found, sizeof found) == 0;
+}
+
+bool SetTimes(HANDLE line) {
+    COMMTIMEOUTS times{.ReadIntervalTimeout = MAXDWORD,
+                       .ReadTotalTimeoutMultiplier = 0,
+                       .ReadTotalTimeoutConstant = 0,
+                       .WriteTotalTimeoutMultiplier = 0,
+                       .WriteTotalTimeoutConstant = 500};
+    return SetCommTimeouts(line, &times) != 0;
+}
+
+// A window that is dragged about reads nothing meanwhile: the queue holds two seconds.
+UniqueHandle OpenAndConfigure(const std::string& name) {
+    UniqueHandle line = OpenDevice(name);
+    if (line) SetupComm(line.get(), 8192, 4096);
+    const bool usable = line && Configure(line.get()) && SetTimes(line.get()) &&
+                        PurgeComm(line.get(), PURGE_RXCLEAR | PURGE_TXCLEAR);
+    return usable ? std::move(line) : nullptr;
+}
+
+// Drops what was written and has not left yet. A driver that waits for longer closes behind the
+// program's back.
+void ClosePromptly(UniqueHandle line) noexcept {
+    if (!line) return;
+    try {
+        auto closed = Start([line = std::move(line)]() mutable {
+            PurgeComm(line.get(), PURGE_TXABORT | PURGE_TXCLEAR);
+            line.reset();
+        });
+        closed.wait_for(500ms);
+    } catch (const std::exception&) {  // no thread to be had: closed on the way out
+    }
+}
 
 }  // namespace
 
-Win32Port::~Win32Port() {
-    CloseLine();
-}
-
-std::int32_t Win32Port::Open() {
-    Close();
-    const std::string& name = names_.Choose(portNumber_);
-    return lineSpeed_ == kBitsPerSecond && OpenNamed(name) ? 1 : 0;
-}
-
-bool Win32Port::OpenNamed(const std::string& name) {
-    if (name.empty()) return false;
-    line_ = OpenLine(name);
-    if (!line_) return false;
-    lost_ = false;
-    idle_ = true;
-    return true;
-}
-
-std::int32_t Win32Port::Close() {
-    CloseLine();
-    lost_ = false;
-    return 0;
+bool Win32Port::OpenLine(const std::string& name) {
+    auto opened = Start([name] { return OpenAndConfigure(name); });
+    if (opened.wait_for(2s) == std::future_status::ready) line_ = opened.get();
+    return IsOpen();
 }
 
 void Win32Port::CloseLine() noexcept {
     unread_ = {};
     ClosePromptly(std::move(line_));
-}
-
-// At once: as long as a handle is open, the adapter gets another name when it comes back.
-void Win32Port::LoseLine() noexcept {
-    CloseLine();
-    lost_ = true;
 }
 
 // The one call that also tells of a far end that hung up.
@@ -69,13 +123,8 @@ void Win32Port::ReadBlock() {
     if (count == 0) CheckLine();
 }
 
-void Win32Port::WriteByte(std::uint8_t byte) {
-    const char character = static_cast<char>(byte);
-    WriteText({&character, 1});
-}
-
 void Win32Port::WriteText(std::string_view text) {
-    if (!line_) throw PortError(lost_ ? "the line is lost" : "the port is not open");
+    BeginWrite();
     idle_ = false;  // a reply may be there by the next yield
     DWORD taken = 0;
     if (!WriteFile(line_.get(), text.data(), static_cast<DWORD>(text.size()), &taken, nullptr)) {
@@ -98,11 +147,6 @@ void Win32Port::DiscardInput() {
     } else {
         LoseLine();
     }
-}
-
-void Win32Port::ReopenLostLine() {
-    DiscardInput();
-    if (lost_) OpenNamed(names_.FindAgain());
 }
 
 }  // namespace keplin

@@ -1,21 +1,23 @@
 #include "ui/win32/drawn.h"
 
 #include <commctrl.h>
+#include <initguid.h>
+// In this order.
+#include <oleacc.h>
 
+#include "ui/win32/object.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
 
-void Drawn::Create(HWND container, const wchar_t* windowClass, DWORD style) {
-    const DWORD enabled = control_.Enabled ? 0 : WS_DISABLED;
-    handle_ = CreateWindowExW(0, windowClass, nullptr, WS_CHILD | WS_CLIPSIBLINGS | enabled | style,
-                              0, 0, 0, 0, container, nullptr, GetModuleHandleW(nullptr), nullptr);
+Drawn::Drawn(const Control& control, const Look& look, HWND container, const wchar_t* windowClass,
+             DWORD style)
+    : control_(control),
+      look_(look),
+      handle_(CreateWindowExW(0, windowClass, nullptr, WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 0,
+                              0, container, nullptr, GetModuleHandleW(nullptr), nullptr)) {
     SetWindowSubclass(handle_, Receive, 0, reinterpret_cast<DWORD_PTR>(this));
     SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-}
-
-void Drawn::SetText(const std::string& text) const {
-    SetWindowTextW(handle_, ToWide(text).c_str());
 }
 
 void Drawn::Apply(Aspect aspect) {
@@ -28,25 +30,47 @@ void Drawn::Apply(Aspect aspect) {
             break;
         case Aspect::Left:
         case Aspect::Top:
-        case Aspect::Height: {
-            const PixelRect place = PlaceNow();
-            SetWindowPos(handle_, nullptr, place.left, place.top, place.width, place.height,
-                         SWP_NOZORDER | SWP_NOACTIVATE);
+        case Aspect::Height:
+            SetPlace(PlaceNow());
             break;
-        }
+        case Aspect::Caption:
+            SetText(Text());
+            Repaint();
+            break;
         default:
             break;
     }
 }
 
 void Drawn::Rescale() {
-    Drawn::Apply(Aspect::Left);
-    Repaint();
-}
-
-void Drawn::SetFont() const {
     const HFONT font = Now().fonts.Get(Now().fit.Font());
     SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    for (const Aspect aspect : {Aspect::Top, Aspect::Enabled, Aspect::Caption, Aspect::Visible})
+        Apply(aspect);
+}
+
+void Drawn::SetText(const std::string& text) const {
+    SetWindowTextW(handle_, ToWide(text).c_str());
+}
+
+void Drawn::SetPlace(const PixelRect& place, UINT flags) const {
+    SetWindowPos(handle_, nullptr, place.left, place.top, place.width, place.height,
+                 SWP_NOZORDER | SWP_NOACTIVATE | flags);
+}
+
+void Drawn::SetToolTip(std::size_t part, const RECT& where, const std::string& text) {
+    constexpr int kWidest = 600;  // pixels, from which on a text wraps
+    if (tips_ == nullptr) {
+        tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0,
+                                0, 0, 0, handle_, nullptr, GetModuleHandleW(nullptr), nullptr);
+        SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, kWidest);
+    }
+    std::wstring wide = ToWide(text);
+    TTTOOLINFOW tool{sizeof tool, TTF_SUBCLASS, handle_, part,   where,
+                     nullptr,     wide.data(),  0,       nullptr};
+    const bool known = part < static_cast<std::size_t>(SendMessageW(tips_, TTM_GETTOOLCOUNT, 0, 0));
+    for (const UINT message : {TTM_NEWTOOLRECTW, TTM_UPDATETIPTEXTW})
+        SendMessageW(tips_, known ? message : TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void Drawn::StartTimer(std::chrono::milliseconds pause) const {
@@ -59,8 +83,11 @@ LRESULT Drawn::OnMessage(UINT message, WPARAM first, LPARAM second) {
 
 LRESULT CALLBACK Drawn::Receive(HWND handle, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
                                 DWORD_PTR self) {
+    auto& drawn = *reinterpret_cast<Drawn*>(self);
     if (message == WM_NCDESTROY) RemoveWindowSubclass(handle, Receive, id);
-    return reinterpret_cast<Drawn*>(self)->OnMessage(message, first, second);
+    if (message != WM_TIMER || first != kTimer) return drawn.OnMessage(message, first, second);
+    drawn.OnTimer();
+    return 0;
 }
 
 LRESULT Painted::OnMessage(UINT message, WPARAM first, LPARAM second) {
@@ -70,12 +97,9 @@ LRESULT Painted::OnMessage(UINT message, WPARAM first, LPARAM second) {
         case WM_PAINT:
             PaintAll();
             return 0;
-        case WM_PRINTCLIENT: {
-            RECT inside{};
-            GetClientRect(Handle(), &inside);
-            Paint(reinterpret_cast<HDC>(first), inside);
+        case WM_PRINTCLIENT:
+            Paint(reinterpret_cast<HDC>(first), ToRect(InsideOf(Handle())));
             return 0;
-        }
         default:
             return Drawn::OnMessage(message, first, second);
     }
@@ -85,22 +109,23 @@ LRESULT Painted::OnMessage(UINT message, WPARAM first, LPARAM second) {
 void Painted::PaintAll() {
     PAINTSTRUCT paint{};
     const HDC screen = BeginPaint(Handle(), &paint);
-    RECT inside{};
-    GetClientRect(Handle(), &inside);
+    const PixelSize size = InsideOf(Handle());
     const MemoryContext memory(CreateCompatibleDC(screen));
-    const Gdi<HBITMAP> bitmap(CreateCompatibleBitmap(screen, inside.right, inside.bottom));
+    const Gdi<HBITMAP> bitmap(CreateCompatibleBitmap(screen, size.width, size.height));
     {
         const Chosen chosen(memory.get(), bitmap.get());
-        Paint(memory.get(), inside);
-        BitBlt(screen, 0, 0, inside.right, inside.bottom, memory.get(), 0, 0, SRCCOPY);
+        Paint(memory.get(), ToRect(size));
+        BitBlt(screen, 0, 0, size.width, size.height, memory.get(), 0, 0, SRCCOPY);
     }
     EndPaint(Handle(), &paint);
 }
 
-COLORREF BackgroundIn(const Control* container) {
-    if (const auto* frame = dynamic_cast<const Frame*>(container)) return ToRef(frame->Background);
-    if (const auto* page = dynamic_cast<const Page*>(container)) return ToRef(page->Background);
-    return GetSysColor(COLOR_BTNFACE);
+void Annotate(HWND control, const GUID& property, const std::string& text) {
+    static const auto properties =
+        ObjectOf<IAccPropServices>(CLSID_AccPropServices, IID_IAccPropServices);
+    const auto object = static_cast<DWORD>(OBJID_CLIENT);
+    if (!properties) return;
+    properties->SetHwndPropStr(control, object, CHILDID_SELF, property, ToWide(text).c_str());
 }
 
 }  // namespace keplin::win32

@@ -5,6 +5,7 @@
 #include <memory>
 #include <unordered_map>
 
+#include "ui/accessible_text.h"
 #include "ui/follower.h"
 #include "ui/text_fit.h"
 #include "ui/win32/fonts.h"
@@ -26,25 +27,27 @@ struct Measures {
 struct Look {
     const ISPMain& model;
     Follower& follower;
+    const Button*& focused;  // that has the focus, or has it once the window is the active one
     const std::function<bool()> mayAct;  // what a press or a tick does may begin now
     std::unique_ptr<const Measures> measures;
 };
 
 // What the window and its controls send each other beyond the system's own messages.
-inline constexpr UINT kPressed = WM_APP;         // to a button: it reported a press
-inline constexpr UINT kPress = WM_APP + 1;       // to a button, by itself: what it does is due
-inline constexpr UINT kCloseAsked = WM_APP + 2;  // to the window: it is to close
-inline constexpr UINT kSpeak = WM_APP + 3;       // to the window: there is news to speak
-inline constexpr UINT kFocusCame = WM_APP + 4;   // to the window: the focus is at this control
+inline constexpr UINT kPress = WM_APP;           // to a button: what a press does is due
+inline constexpr UINT kCloseAsked = WM_APP + 1;  // to the window: it is to close
+inline constexpr UINT kSpeak = WM_APP + 2;       // to the window: there is news to speak
 
 class Drawn {
   public:
-    Drawn(const Control& control, const Look& look) : control_(control), look_(look) {}
+    // Made of the system's control of that class, above those that stand in the container already.
+    Drawn(const Control& control, const Look& look, HWND container, const wchar_t* windowClass,
+          DWORD style);
     virtual ~Drawn() = default;
     Drawn(const Drawn&) = delete;
     Drawn& operator=(const Drawn&) = delete;
 
-    // Takes over from the model what the aspect names; this one what every control has.
+    // Takes over from the model what the aspect names; this one what every control has: its place,
+    // whether it is there and enabled, and its text.
     virtual void Apply(Aspect aspect);
     // A neighbour came or went.
     virtual void Refit() {}
@@ -54,18 +57,19 @@ class Drawn {
     [[nodiscard]] HWND Handle() const { return handle_; }
 
   protected:
-    // Makes the system's control of that class, above those that stand in the container already.
-    void Create(HWND container, const wchar_t* windowClass, DWORD style);
-    // The text by which others find the control.
     void SetText(const std::string& text) const;
-    // Has the control write by itself in the window's font.
-    void SetFont() const;
+    void SetPlace(const PixelRect& place, UINT flags = 0) const;
     void Repaint() const { InvalidateRect(handle_, nullptr, FALSE); }
-    // WM_TIMER comes again and again after that time; the system knows none shorter than 10 ms.
+    // Shows the text while the mouse rests there; "" shows nothing. `part` counts from 0, and a new
+    // one follows the last.
+    void SetToolTip(std::size_t part, const RECT& where, const std::string& text);
+    // OnTimer comes again and again after that time; the system knows none shorter than 10 ms.
     void StartTimer(std::chrono::milliseconds pause) const;
     void StopTimer() const { KillTimer(handle_, kTimer); }
-    static constexpr UINT_PTR kTimer = 1;
 
+    virtual void OnTimer() {}
+    // By which others find the control, and which the system's control writes.
+    [[nodiscard]] virtual std::string Text() const { return AccessibleTextOf(control_).name; }
     // What the control is sent. The default does what the system's control does with it.
     virtual LRESULT OnMessage(UINT message, WPARAM first, LPARAM second);
     [[nodiscard]] virtual PixelRect PlaceNow() const { return Now().scale.PlaceOf(control_); }
@@ -78,8 +82,10 @@ class Drawn {
   private:
     static LRESULT CALLBACK Receive(HWND handle, UINT message, WPARAM first, LPARAM second,
                                     UINT_PTR id, DWORD_PTR self);
+    static constexpr UINT_PTR kTimer = 470;  // clear of those that the system's controls have
 
-    HWND handle_ = nullptr;
+    const HWND handle_;
+    HWND tips_ = nullptr;  // made with the first tool tip; belongs to the control's window
 };
 
 // One that is painted here and not by the system: all of its place, in one go.
@@ -95,27 +101,13 @@ class Painted : public Drawn {
     void PaintAll();
 };
 
-// The colour on which a control stands that is inside this container; nullptr is the window.
-COLORREF BackgroundIn(const Control* container);
-
 using DrawnControls = std::unordered_map<const Control*, std::unique_ptr<Drawn>>;
 
 // One control of the system in that window for each of the model, in the model's order; none for
-// the window itself. The look must outlive them.
+// the window itself, nor for a panel, which its bar draws. The look must outlive them.
 DrawnControls MakeControls(HWND window, const Look& look);
 
-// One kind each, inside the container.
-std::unique_ptr<Drawn> Make(const Page& page, const Look& look, HWND container);
-std::unique_ptr<Drawn> Make(const Frame& frame, const Look& look, HWND container);
-std::unique_ptr<Drawn> Make(const Label& label, const Look& look, HWND container);
-std::unique_ptr<Drawn> Make(const Button& button, const Look& look, HWND container);
-std::unique_ptr<Drawn> Make(const Picture& picture, const Look& look, HWND container);
-std::unique_ptr<Drawn> Make(const Shape& shape, const Look& look, HWND container);
-std::unique_ptr<Drawn> Make(const ProgressBar& bar, const Look& look, HWND container);
-std::unique_ptr<Drawn> Make(const StatusBar& bar, const Look& look, HWND container);
-
-// The program's icon, as wide as one of these two of the system: SM_CXICON or SM_CXSMICON. The
-// system keeps it.
-HICON ProgramIcon(int size);
+// Tells a screen reader a property of the control beyond what the system's tells by itself.
+void Annotate(HWND control, const GUID& property, const std::string& text);
 
 }  // namespace keplin::win32

@@ -60,61 +60,39 @@ std::vector<Line> LayOut(HDC context, std::wstring_view text, Alignment alignmen
 
 // What of the line is blackened; the whole of it in a font that has no outlines.
 Rect<double> InkOf(HDC context, const Line& line) {
-    const int base = line.place.top + static_cast<int>(Metrics(context).tmAscent);
-    int top = line.place.Bottom();
-    int bottom = line.place.top;
     constexpr MAT2 kAsItIs{{0, 1}, {0, 0}, {0, 0}, {0, 1}};
+    const int base = line.place.top + static_cast<int>(Metrics(context).tmAscent);
+    PixelRect ink = line.place;
+    int top = ink.Bottom();
+    int bottom = ink.top;
     for (const wchar_t letter : line.text) {
         GLYPHMETRICS glyph{};
         if (letter == L' ') continue;
         if (GetGlyphOutlineW(context, letter, GGO_METRICS, &glyph, 0, nullptr, &kAsItIs) ==
             GDI_ERROR) {
-            top = line.place.top;
-            bottom = line.place.Bottom();
-            break;
+            return Exactly(line.place);
         }
-        top = std::min(top, base - static_cast<int>(glyph.gmptGlyphOrigin.y));
-        bottom = std::max(bottom, base - static_cast<int>(glyph.gmptGlyphOrigin.y) +
-                                      static_cast<int>(glyph.gmBlackBoxY));
+        const int above = base - static_cast<int>(glyph.gmptGlyphOrigin.y);
+        top = std::min(top, above);
+        bottom = std::max(bottom, above + static_cast<int>(glyph.gmBlackBoxY));
     }
-    return {double(line.place.left), double(top), double(line.place.width),
-            double(std::max(bottom - top, 0))};
-}
-
-int CALLBACK Found(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
-    *reinterpret_cast<bool*>(found) = true;
-    return 0;
-}
-
-LOGFONTW LogFont(std::wstring_view family) {
-    LOGFONTW font{};
-    font.lfCharSet = DEFAULT_CHARSET;
-    std::copy_n(family.begin(), std::min<std::size_t>(family.size(), LF_FACESIZE - 1),
-                std::begin(font.lfFaceName));
-    return font;
-}
-
-Gdi<HBITMAP> OnePixel() {
-    const HDC screen = GetDC(nullptr);
-    Gdi<HBITMAP> pixel(CreateCompatibleBitmap(screen, 1, 1));
-    ReleaseDC(nullptr, screen);
-    return pixel;
+    ink.top = top;
+    ink.height = std::max(bottom - top, 0);
+    return Exactly(ink);
 }
 
 }  // namespace
 
-Fonts::Fonts(double dpi) : dpi_(dpi), pixel_(OnePixel()), context_(CreateCompatibleDC(nullptr)) {
-    SelectObject(context_.get(), pixel_.get());
-}
+Fonts::Fonts(double dpi) : dpi_(dpi), context_(CreateDCW(L"DISPLAY", nullptr, nullptr, nullptr)) {}
 
 HFONT Fonts::Get(const TextFont& font) const {
     const auto [made, isNew] = made_.try_emplace(font);
     if (isNew) {
-        LOGFONTW wanted = LogFont(ToWide(font.family));
-        wanted.lfHeight = static_cast<LONG>(-std::lround(font.points * dpi_ / kPointsPerInch));
-        wanted.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
-        wanted.lfQuality = CLEARTYPE_QUALITY;
-        made->second.reset(CreateFontIndirectW(&wanted));
+        const long height = -std::lround(font.points * dpi_ / kPointsPerInch);
+        made->second.reset(CreateFontW(
+            static_cast<int>(height), 0, 0, 0, font.bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
+            DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY,
+            DEFAULT_PITCH | FF_DONTCARE, ToWide(font.family).c_str()));
     }
     return made->second.get();
 }
@@ -137,9 +115,15 @@ PixelSize Fonts::LineSize(const std::string& text, const TextFont& font) const {
 }
 
 bool Fonts::HasFamily(const std::string& family) const {
-    LOGFONTW wanted = LogFont(ToWide(family));
+    const auto note = [](const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
+        *reinterpret_cast<bool*>(found) = true;
+        return 0;
+    };
+    LOGFONTW wanted{};
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    ToWide(family).copy(wanted.lfFaceName, LF_FACESIZE - 1);
     bool found = false;
-    EnumFontFamiliesExW(context_.get(), &wanted, Found, reinterpret_cast<LPARAM>(&found), 0);
+    EnumFontFamiliesExW(context_.get(), &wanted, note, reinterpret_cast<LPARAM>(&found), 0);
     return found;
 }
 

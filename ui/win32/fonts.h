@@ -34,8 +34,7 @@ class Fonts : public TextMeasure {
 
   private:
     const double dpi_;
-    const Gdi<HBITMAP> pixel_;     // of the screen's kind, on which texts are as wide as there
-    const MemoryContext context_;  // to measure with
+    const MemoryContext context_;  // of the screen, to measure with
     mutable std::map<TextFont, Gdi<HFONT>> made_;
 };
 

@@ -3,27 +3,15 @@
 
 #include <windows.h>
 
-#include <memory>
-#include <type_traits>
-
+#include "platform/win32/owned.h"
 #include "ui/controls.h"
 #include "ui/rect.h"
 
 namespace keplin::win32 {
 
 template <typename Handle>
-struct DeleteGdi {
-    using pointer = Handle;
-    void operator()(Handle handle) const { DeleteObject(handle); }
-};
-template <typename Handle>
-using Gdi = std::unique_ptr<std::remove_pointer_t<Handle>, DeleteGdi<Handle>>;
-
-struct DeleteContext {
-    using pointer = HDC;
-    void operator()(HDC context) const { DeleteDC(context); }
-};
-using MemoryContext = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteContext>;
+using Gdi = Owned<Handle, DeleteObject>;
+using MemoryContext = Owned<HDC, DeleteDC>;
 
 // An object that is chosen into a context for as long as this exists.
 class Chosen {
@@ -47,6 +35,10 @@ inline RECT ToRect(const PixelRect& rect) {
     return {rect.left, rect.top, rect.Right(), rect.Bottom()};
 }
 
+inline RECT ToRect(PixelSize size) {
+    return {0, 0, size.width, size.height};
+}
+
 // The size of a window's inside.
 inline PixelSize InsideOf(HWND window) {
     RECT inside{};
@@ -64,5 +56,12 @@ inline void Outline(HDC context, const RECT& rect, COLORREF colour) {
     SetDCBrushColor(context, colour);
     FrameRect(context, &rect, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
+
+// Draws the picture from the top-left corner, in that size.
+void DrawImage(HDC context, Picture::Image image, PixelSize size);
+
+// The program's icon, as wide as one of these two of the system: SM_CXICON or SM_CXSMICON. The
+// system keeps it.
+HICON ProgramIcon(int size);
 
 }  // namespace keplin::win32

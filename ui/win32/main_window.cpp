@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/win32/accessible.h"
-#include "ui/win32/screen.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
@@ -30,32 +28,19 @@ void RegisterOnce(WNDPROC receive) {
     RegisterClassExW(&kind);
 }
 
-PixelSize OuterSizeOf(HWND window) {
-    RECT outer{};
-    GetWindowRect(window, &outer);
-    return {outer.right - outer.left, outer.bottom - outer.top};
-}
-
-// The classes of the system's controls are known after this.
-void LoadControls() {
-    INITCOMMONCONTROLSEX classes{};
-    classes.dwSize = sizeof classes;
-    classes.dwICC = ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_PROGRESS_CLASS;
-    InitCommonControlsEx(&classes);
-}
-
 }  // namespace
 
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     : model_(model),
       follower_(model, *this, std::move(clock)),
-      look_{model, follower_, [this] { return inSystem_ == 0; }, nullptr} {
-    LoadControls();
+      look_{model, follower_, focused_, [this] { return inSystem_ == 0; }, nullptr} {
+    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
+    InitCommonControlsEx(&classes);
     RegisterOnce(Receive);
     handle_ = CreateWindowExW(0, kClass, nullptr, kFrame, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
                               nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    screenDots_ = ScreenDotsOf(handle_);
+    screenDots_ = ScreenDots();
     Measure();
     drawn_ = MakeControls(handle_, look_);
     // The focus shows from the start, not only after the first use of the keyboard.
@@ -83,7 +68,7 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     switch (message) {
         case WM_COMMAND:
             if (HIWORD(first) == BN_CLICKED && second != 0)
-                SendMessageW(reinterpret_cast<HWND>(second), kPressed, 0, 0);
+                PostMessageW(reinterpret_cast<HWND>(second), kPress, 0, 0);
             return 0;
         case WM_CLOSE:  // sent from within the system's own loop
             PostMessageW(handle_, kCloseAsked, 0, 0);
@@ -98,9 +83,6 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
             return 0;
         case WM_ACTIVATE:
             if (LOWORD(first) != WA_INACTIVE && HIWORD(first) == 0) Focus(focused_);
-            return 0;
-        case kFocusCame:
-            FocusMoved(reinterpret_cast<HWND>(first));
             return 0;
         case WM_KEYDOWN:
             if (first == VK_TAB) MoveFocus(GetKeyState(VK_SHIFT) < 0);
@@ -147,29 +129,21 @@ LRESULT MainWindow::LeaveToSystem(UINT message, WPARAM first, LPARAM second) {
     return result;
 }
 
+// A panel has no window of its own: what changes in it changes in its bar.
 void MainWindow::Apply(const Control& control, Aspect aspect) {
+    const auto found = drawn_.find(&control);
     if (&control == &model_) {
         ApplyToWindow(aspect);
     } else {
-        drawn_.at(&control)->Apply(aspect);
+        (found == drawn_.end() ? drawn_.at(control.Container) : found->second)->Apply(aspect);
     }
-    taskbar_.Show(handle_, RunProgressOf(model_));
-}
-
-void MainWindow::Refit(const Label& label) {
-    drawn_.at(&label)->Refit();
+    ShowInTaskbar();
 }
 
 // To a window that is not the active one the focus comes as soon as it is.
 void MainWindow::Focus(const Button* button) {
     focused_ = button;
     if (GetActiveWindow() == handle_) SetFocus(button ? HandleOf(*button) : handle_);
-}
-
-void MainWindow::FocusMoved(HWND to) {
-    for (const Button* button : follower_.TabOrder()) {
-        if (HandleOf(*button) == to) focused_ = button;
-    }
 }
 
 void MainWindow::MoveFocus(bool backwards) {
@@ -180,31 +154,6 @@ void MainWindow::MoveFocus(bool backwards) {
     const auto found = std::find_if(order.begin(), order.end(),
                                     [](const Button* button) { return button->CanBePressed(); });
     if (found != order.end()) Focus(*found);
-}
-
-void MainWindow::CallForAttention() {
-    TaskbarButton::CallForAttention(handle_);
-}
-
-bool MainWindow::IsHeard() const {
-    return win32::IsHeard();
-}
-
-void MainWindow::SpeakSoon() {
-    PostMessageW(handle_, kSpeak, 0, 0);
-}
-
-void MainWindow::Describe(const Button& button, const std::string& news) {
-    win32::Describe(HandleOf(button), news);
-}
-
-void MainWindow::Announce(const Button& button, const std::string& news) {
-    win32::Announce(HandleOf(button), news);
-}
-
-double MainWindow::DotsPerInch() const {
-    const PixelRect screen = WorkAreaOf(handle_);
-    return FittingDotsPerInch(screenDots_ * TextSize(), {screen.width, screen.height}, model_);
 }
 
 void MainWindow::Measure() {
@@ -230,25 +179,6 @@ void MainWindow::ApplyToWindow(Aspect aspect) {
     if (aspect == Aspect::WindowState && form.WindowState.Get() == Form::State::Minimised) {
         ShowWindow(handle_, SW_MINIMIZE);
     }
-}
-
-// What the frame takes is known from the window itself; once it is larger the frame may be another.
-void MainWindow::ApplySize() const {
-    const PixelSize wanted = Now().scale.ClientSize(model_);
-    for (int pass = 0; pass < 2; ++pass) {
-        const PixelSize outer = OuterSizeOf(handle_);
-        const PixelSize inside = InsideOf(handle_);
-        SetWindowPos(handle_, nullptr, 0, 0, outer.width - inside.width + wanted.width,
-                     outer.height - inside.height + wanted.height,
-                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-}
-
-void MainWindow::ShowCentred() const {
-    const PixelRect place = Centred(OuterSizeOf(handle_), WorkAreaOf(handle_));
-    SetWindowPos(handle_, nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    ShowWindow(handle_, SW_SHOWNORMAL);
-    UpdateWindow(handle_);
 }
 
 }  // namespace keplin::win32

@@ -1,8 +1,8 @@
 // The window on the desktop: draws the model and hands back what the technician does.
 #pragma once
 
+#include "ui/run_progress.h"
 #include "ui/win32/drawn.h"
-#include "ui/win32/taskbar_button.h"
 
 namespace keplin::win32 {
 
@@ -34,12 +34,12 @@ class MainWindow final : public Drawing {
     std::function<void()> OnHelp;
 
     void Apply(const Control& control, Aspect aspect) override;
-    void Refit(const Label& label) override;
+    void Refit(const Label& label) override { drawn_.at(&label)->Refit(); }
     [[nodiscard]] const Button* Focused() const override { return focused_; }
     void Focus(const Button* button) override;
     void CallForAttention() override;
     [[nodiscard]] bool IsHeard() const override;
-    void SpeakSoon() override;
+    void SpeakSoon() override { PostMessageW(handle_, kSpeak, 0, 0); }
     void Describe(const Button& button, const std::string& news) override;
     void Announce(const Button& button, const std::string& news) override;
 
@@ -47,9 +47,10 @@ class MainWindow final : public Drawing {
     static LRESULT CALLBACK Receive(HWND handle, UINT message, WPARAM first, LPARAM second);
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second);
     LRESULT LeaveToSystem(UINT message, WPARAM first, LPARAM second);
-    void FocusMoved(HWND to);
     void MoveFocus(bool backwards);
+    void ShowInTaskbar();
 
+    [[nodiscard]] UINT ScreenDots() const;
     [[nodiscard]] double DotsPerInch() const;
     void Measure();
     void Rescale();
@@ -62,10 +63,10 @@ class MainWindow final : public Drawing {
     Look look_;
     HWND handle_ = nullptr;
     DrawnControls drawn_;
-    TaskbarButton taskbar_;
-    UINT screenDots_ = 0;  // per inch
     const Button* focused_ = nullptr;
-    int inSystem_ = 0;  // the system's own loops that are at work
+    RunProgress inTaskbar_;
+    UINT screenDots_ = 0;  // per inch
+    int inSystem_ = 0;     // the system's own loops that are at work
 };
 
 }  // namespace keplin::win32

@@ -1,78 +1,33 @@
-#include "ui/win32/drawn.h"
+#include "ui/win32/painted_controls.h"
+#include "ui/win32/system_controls.h"
 
 namespace keplin::win32 {
 namespace {
-
-// A tick that falls due while the system has the thread is left out.
-class TickTimer final : public Drawn {
-  public:
-    TickTimer(const Timer& timer, const Look& look, HWND window)
-        : Drawn(timer, look), timer_(timer) {
-        Create(window, L"STATIC", 0);
-    }
-
-    void Apply(Aspect) override {
-        if (timer_.Enabled) {
-            StartTimer(std::chrono::milliseconds(timer_.Interval));
-        } else {
-            StopTimer();
-        }
-    }
-    void Rescale() override {}
-
-  protected:
-    LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override {
-        if (message != WM_TIMER) return Drawn::OnMessage(message, first, second);
-        if (look_.mayAct()) timer_.Tick();
-        return 0;
-    }
-
-  private:
-    const Timer& timer_;
-};
-
-// A panel has no window of its own: what changes in it changes in its bar.
-class PanelOfBar final : public Drawn {
-  public:
-    PanelOfBar(const Panel& panel, const Look& look, Drawn& bar) : Drawn(panel, look), bar_(bar) {}
-    void Apply(Aspect) override { bar_.Apply(Aspect::Caption); }
-    void Rescale() override {}
-
-  private:
-    Drawn& bar_;
-};
 
 class Factory : public ControlVisitor {
   public:
     Factory(HWND window, const Look& look) : window_(window), look_(look) {}
 
     void Visit(const Form&) override {}
-    void Visit(const Page& page) override { Add(page, Make(page, look_, In(page))); }
-    void Visit(const Frame& frame) override { Add(frame, Make(frame, look_, In(frame))); }
-    void Visit(const Label& label) override { Add(label, Make(label, look_, In(label))); }
-    void Visit(const Button& button) override { Add(button, Make(button, look_, In(button))); }
-    void Visit(const Picture& picture) override { Add(picture, Make(picture, look_, In(picture))); }
-    void Visit(const Shape& shape) override { Add(shape, Make(shape, look_, In(shape))); }
-    void Visit(const ProgressBar& bar) override { Add(bar, Make(bar, look_, In(bar))); }
-    void Visit(const StatusBar& bar) override { Add(bar, Make(bar, look_, In(bar))); }
-    void Visit(const Panel& panel) override {
-        Made[&panel] = std::make_unique<PanelOfBar>(panel, look_, *Made.at(panel.Container));
-    }
-    void Visit(const Timer& timer) override {
-        Add(timer, std::make_unique<TickTimer>(timer, look_, window_));
-    }
+    void Visit(const Page& page) override { Add<PageControl>(page); }
+    void Visit(const Frame& frame) override { Add<FrameControl>(frame); }
+    void Visit(const Label& label) override { Add<LabelControl>(label); }
+    void Visit(const Button& button) override { Add<ButtonControl>(button); }
+    void Visit(const Picture& picture) override { Add<PictureControl>(picture); }
+    void Visit(const Shape& shape) override { Add<ShapeControl>(shape); }
+    void Visit(const ProgressBar& bar) override { Add<ProgressBarControl>(bar); }
+    void Visit(const StatusBar& bar) override { Add<StatusBarControl>(bar); }
+    void Visit(const Panel&) override {}
+    void Visit(const Timer& timer) override { Add<TimerControl>(timer); }
 
     DrawnControls Made;
 
   private:
-    [[nodiscard]] HWND In(const Control& control) const {
-        return control.Container ? Made.at(control.Container)->Handle() : window_;
-    }
-
-    void Add(const Control& control, std::unique_ptr<Drawn> made) {
+    template <typename Drawing, typename Kind>
+    void Add(const Kind& control) {
+        const HWND in = control.Container ? Made.at(control.Container)->Handle() : window_;
+        auto& made = Made[&control] = std::make_unique<Drawing>(control, look_, in);
         made->Rescale();
-        made->Apply(Aspect::Visible);
-        Made[&control] = std::move(made);
     }
 
     const HWND window_;

@@ -1,14 +1,14 @@
 #include "ui/win32/win32_desktop.h"
 
+#include <commdlg.h>
 #include <mmsystem.h>
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 #include <string>
 #include <utility>
 
-#include "ui/win32/accessible.h"
-#include "ui/win32/open_dialog.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
@@ -22,6 +22,7 @@ constexpr milliseconds kLateness{1};   // how late the system may wake a sleeper
 constexpr DWORD kLongestYield = 2;     // milliseconds
 constexpr DWORD kBetweenChecks = 500;  // milliseconds
 constexpr int kLongestText = 80;       // characters of a date or a time
+constexpr DWORD kLongestPath = 32768;
 
 bool WaitForEvent(DWORD mostMilliseconds) {
     return MsgWaitForMultipleObjectsEx(0, nullptr, mostMilliseconds, QS_ALLINPUT,
@@ -45,6 +46,13 @@ void AnswerScreenReader(milliseconds duration) {
     MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(duration.count()), QS_SENDMESSAGE,
                                 0);
     PeekMessageW(&event, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+}
+
+// Each part of the filter is ended by a null character, and the whole by one more.
+std::wstring FilterOf(const std::string& filter) {
+    std::wstring parts = ToWide(filter) + L"||";
+    std::replace(parts.begin(), parts.end(), L'|', L'\0');
+    return parts;
 }
 
 SYSTEMTIME LocalTime(const FILETIME& time) {
@@ -85,7 +93,7 @@ void Win32Desktop::YieldOnce() {
 void Win32Desktop::Sleep(milliseconds duration) {
     const auto end = steady_clock::now() + duration;
     window_.PaintNow();
-    const bool heard = IsHeard();
+    const bool heard = window_.IsHeard();
     for (;;) {
         const auto left = std::chrono::ceil<milliseconds>(end - steady_clock::now()) - kLateness;
         if (left.count() <= 0) break;
@@ -100,7 +108,22 @@ void Win32Desktop::Sleep(milliseconds duration) {
 }
 
 std::optional<std::string> Win32Desktop::AskForFile(const OpenFileRequest& request) {
-    return win32::AskForFile(window_.Handle(), request);
+    const std::wstring filter = FilterOf(request.filter);
+    const std::wstring title = ToWide(request.title);
+    const std::wstring folder = ToWide(request.initialDirectory);
+    std::wstring path(kLongestPath, L'\0');
+    OPENFILENAMEW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = window_.Handle();
+    dialog.lpstrFilter = filter.c_str();
+    dialog.lpstrFile = path.data();
+    dialog.nMaxFile = kLongestPath;
+    dialog.lpstrInitialDir = folder.c_str();
+    dialog.lpstrTitle = title.c_str();
+    dialog.Flags = OFN_EXPLORER | OFN_NOCHANGEDIR | OFN_DONTADDTORECENT;
+    if (request.hideReadOnly) dialog.Flags |= OFN_HIDEREADONLY;
+    if (!GetOpenFileNameW(&dialog)) return std::nullopt;
+    return ToUtf8(path.c_str());
 }
 
 std::string Win32Desktop::FileDateTime(const std::string& path) {

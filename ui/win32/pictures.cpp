@@ -1,6 +1,6 @@
 #include <string>
 
-#include "ui/win32/drawn.h"
+#include "ui/win32/gdi.h"
 
 namespace keplin::win32 {
 namespace {
@@ -38,35 +38,12 @@ void DrawPicture(HDC context, PixelSize size) {
                   picture->bmiColors + colours, picture, DIB_RGB_COLORS, SRCCOPY);
 }
 
-// From pixels that were prepared for the usual magnifications.
-class PictureControl final : public Painted {
-  public:
-    PictureControl(const Picture& picture, const Look& look, HWND container)
-        : Painted(picture, look), picture_(picture) {
-        Create(container, L"STATIC", 0);
-        SetText(picture.Description);
-    }
-
-  protected:
-    void Paint(HDC context, const RECT& inside) override {
-        const PixelSize size = InsideOf(Handle());
-        Fill(context, inside, BackgroundIn(picture_.Container));
-        if (picture_.Shows == Picture::Image::Icon) {
-            DrawIconEx(context, 0, 0, LoadIconOf(kIcon, size.width), size.width, size.height, 0,
-                       nullptr, DI_NORMAL);
-        } else {
-            DrawPicture(context, size);
-        }
-    }
-
-  private:
-    const Picture& picture_;
-};
-
 }  // namespace
 
-std::unique_ptr<Drawn> Make(const Picture& picture, const Look& look, HWND container) {
-    return std::make_unique<PictureControl>(picture, look, container);
+void DrawImage(HDC context, Picture::Image image, PixelSize size) {
+    if (image != Picture::Image::Icon) return DrawPicture(context, size);
+    DrawIconEx(context, 0, 0, LoadIconOf(kIcon, size.width), size.width, size.height, 0, nullptr,
+               DI_NORMAL);
 }
 
 HICON ProgramIcon(int size) {
