@@ -3,6 +3,7 @@
 
 #include <compare>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "ui/controls.h"
@@ -14,7 +15,11 @@ struct TextFont {
     std::string family;
     double points = 0;  // 1/72 inch at the desktop's dots per inch; quarters and eighths occur
     bool bold = false;
-    friend auto operator<=>(const TextFont&, const TextFont&) = default;
+    friend bool operator==(const TextFont&, const TextFont&) = default;
+    friend bool operator<(const TextFont& one, const TextFont& other) {
+        return std::tie(one.family, one.points, one.bold) <
+               std::tie(other.family, other.points, other.bold);
+    }
 };
 
 // Every text is in UTF-8; a byte that is none is measured as what is shown in its place. Widths are
