@@ -2,28 +2,36 @@
 
 #include <chrono>
 #include <cstring>
-#include <exception>
-#include <future>
-#include <thread>
+#include <functional>
+#include <memory>
+#include <new>
 
 namespace keplin {
 namespace {
 
 using namespace std::chrono_literals;
 
-// Starts the work in a thread of its own. Nobody has to wait for it: what it gives to nobody is
-// given up as it ends.
-template <typename Work>
-auto Start(Work work) {
-    std::packaged_task<decltype(work())()> task(std::move(work));
-    auto result = task.get_future();
-    std::thread(std::move(task)).detach();
-    return result;
+using Work = std::function<void()>;
+
+DWORD WINAPI Run(void* work) {
+    const std::unique_ptr<Work> owned(static_cast<Work*>(work));
+    (*owned)();
+    return 0;
+}
+
+// Whether the work ended in time. Otherwise its thread stays behind with what it holds. A thread of
+// the system's: with std::thread of MinGW 12 a wait missed the end now and then, and the heap
+// broke.
+bool EndsWithin(std::chrono::milliseconds limit, Work work) {
+    auto owned = std::make_unique<Work>(std::move(work));
+    const UniqueHandle thread = Own(CreateThread(nullptr, 0, Run, owned.get(), 0, nullptr));
+    if (!thread) return false;
+    static_cast<void>(owned.release());  // the thread owns it now
+    return WaitForSingleObject(thread.get(), static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
 }
 
 // Without sharing: no other program gets in as long as it is open.
-UniqueHandle OpenDevice(const std::string& name) {
-    const std::wstring path = L"\\\\.\\" + std::wstring(name.begin(), name.end());
+UniqueHandle OpenDevice(const std::wstring& path) {
     return Own(CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0,
                            nullptr));
 }
@@ -65,8 +73,8 @@ bool SetTimes(HANDLE line) {
 }
 
 // A window that is dragged about reads nothing meanwhile: the queue holds two seconds.
-UniqueHandle OpenAndConfigure(const std::string& name) {
-    UniqueHandle line = OpenDevice(name);
+UniqueHandle OpenAndConfigure(const std::wstring& path) {
+    UniqueHandle line = OpenDevice(path);
     if (line) SetupComm(line.get(), 8192, 4096);
     const bool usable = line && Configure(line.get()) && SetTimes(line.get()) &&
                         PurgeComm(line.get(), PURGE_RXCLEAR | PURGE_TXCLEAR);
@@ -75,29 +83,32 @@ UniqueHandle OpenAndConfigure(const std::string& name) {
 
 // Drops what was written and has not left yet. A driver that waits for longer closes behind the
 // program's back.
-void ClosePromptly(UniqueHandle line) noexcept {
-    if (!line) return;
-    try {
-        auto closed = Start([line = std::move(line)]() mutable {
-            PurgeComm(line.get(), PURGE_TXABORT | PURGE_TXCLEAR);
-            line.reset();
-        });
-        closed.wait_for(500ms);
-    } catch (const std::exception&) {  // no thread to be had: closed on the way out
-    }
+void ClosePromptly(UniqueHandle line) {
+    const auto owned = std::make_shared<UniqueHandle>(std::move(line));
+    EndsWithin(500ms, [owned] {
+        PurgeComm(owned->get(), PURGE_TXABORT | PURGE_TXCLEAR);
+        owned->reset();
+    });
 }
 
 }  // namespace
 
 bool Win32Port::OpenLine(const std::string& name) {
-    auto opened = Start([name] { return OpenAndConfigure(name); });
-    if (opened.wait_for(2s) == std::future_status::ready) line_ = opened.get();
+    const auto line = std::make_shared<UniqueHandle>();
+    const auto open = [line, path = L"\\\\.\\" + std::wstring(name.begin(), name.end())] {
+        *line = OpenAndConfigure(path);
+    };
+    if (EndsWithin(2s, open)) line_ = std::move(*line);
     return IsOpen();
 }
 
 void Win32Port::CloseLine() noexcept {
     unread_ = {};
-    ClosePromptly(std::move(line_));
+    if (!line_) return;
+    try {
+        ClosePromptly(std::move(line_));
+    } catch (const std::bad_alloc&) {  // closed on the way out
+    }
 }
 
 // The one call that also tells of a far end that hung up.
