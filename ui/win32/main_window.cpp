@@ -137,7 +137,7 @@ void MainWindow::Apply(const Control& control, Aspect aspect) {
     } else {
         (found == drawn_.end() ? drawn_.at(control.Container) : found->second)->Apply(aspect);
     }
-    ShowInTaskbar();
+    ShowInTaskbar(control);
 }
 
 // To a window that is not the active one the focus comes as soon as it is.

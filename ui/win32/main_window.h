@@ -48,7 +48,7 @@ class MainWindow final : public Drawing {
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second);
     LRESULT LeaveToSystem(UINT message, WPARAM first, LPARAM second);
     void MoveFocus(bool backwards);
-    void ShowInTaskbar();
+    void ShowInTaskbar(const Control& changed);
 
     [[nodiscard]] UINT ScreenDots() const;
     [[nodiscard]] double DotsPerInch() const;
