@@ -15,6 +15,12 @@ constexpr const wchar_t* kClass = L"KeplinWindow";
 // No maximise control: the size is fixed.
 constexpr DWORD kFrame = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
 
+// Alt or F10 alone. There is no menu bar, but the system would wait in it for the next key.
+bool OpensMenuBar(WPARAM command, LPARAM letter) {
+    constexpr WPARAM kOwnBits = 0x000F;  // of the system
+    return (command & ~kOwnBits) == SC_KEYMENU && letter == 0;
+}
+
 void RegisterOnce(WNDPROC receive) {
     WNDCLASSEXW kind{};
     kind.cbSize = sizeof kind;
@@ -77,12 +83,15 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
             if (inSystem_ == 0) follower_.CloseAsked();
             return 0;
         case WM_QUERYENDSESSION:
-            return model_.cmdExit.Enabled;
+            return model_.UnderWay() != ISPMain::Job::Update;
         case kSpeak:
             follower_.Speak();
             return 0;
         case WM_ACTIVATE:
             if (LOWORD(first) != WA_INACTIVE && HIWORD(first) == 0) Focus(focused_);
+            return 0;
+        case WM_SETFOCUS:  // it comes back from the taskbar, say
+            if (focused_) SetFocus(HandleOf(*focused_));
             return 0;
         case WM_KEYDOWN:
             if (first == VK_TAB) MoveFocus(GetKeyState(VK_SHIFT) < 0);
@@ -108,6 +117,8 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
                 SendMessageW(drawn->Handle(), message, first, second);
             break;
         case WM_SYSCOMMAND:
+            if (OpensMenuBar(first, second)) return 0;
+            return LeaveToSystem(message, first, second);
         case WM_NCLBUTTONDOWN:
         case WM_NCRBUTTONDOWN:
         case WM_NCRBUTTONUP:
