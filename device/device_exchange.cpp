@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
-#include "device/pass_over.h"
 #include "device/reply_verdict.h"
+#include "platform/pass_over.h"
 
 namespace keplin {
 namespace {

@@ -278,11 +278,11 @@ TEST_F(Win32DesktopServices, AYieldWaitsForTheLineWhenItIsToldTo) {
     const auto shortestYield = [&](bool wait) {
         auto shortest = std::chrono::steady_clock::duration::max();
         for (int i = 0; i < 30; ++i) {
-            line.Idle = wait;
+            line.MayWait = wait;
             const auto start = std::chrono::steady_clock::now();
             desktop.YieldOnce();
             shortest = std::min(shortest, std::chrono::steady_clock::now() - start);
-            EXPECT_FALSE(line.Idle);
+            EXPECT_FALSE(line.MayWait);
         }
         return shortest;
     };

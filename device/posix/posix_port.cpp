@@ -123,7 +123,7 @@ std::int32_t PosixPort::ReadByte() {
     if (!line_) return -1;
     std::uint8_t byte = 0;
     const auto count = ::read(line_.Get(), &byte, 1);
-    idle_ = count != 1;
+    mayWait_ = count != 1;
     if (count == 1) return byte;
     // 0 bytes is how a line that hung up reads, but also an idle one whose settings another program
     // has changed meanwhile.
@@ -132,7 +132,8 @@ std::int32_t PosixPort::ReadByte() {
 }
 
 void PosixPort::WriteText(std::string_view bytes) {
-    BeginWrite();
+    RequireOpen();
+    mayWait_ = true;  // its answer ends the wait
     const Moment deadline = steady_clock::now() + kWriteBound;
     bytes = WriteSome(bytes);
     while (!bytes.empty()) {
@@ -165,7 +166,7 @@ void PosixPort::AwaitRoom(Moment deadline) {
 
 void PosixPort::DiscardInput() {
     if (!line_) return;
-    idle_ = true;
+    mayWait_ = true;
     if (tcflush(line_.Get(), TCIFLUSH) != 0) LoseLine();
 }
 

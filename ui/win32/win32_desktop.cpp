@@ -84,7 +84,7 @@ void Win32Desktop::Run() {
 }
 
 void Win32Desktop::YieldOnce() {
-    if (line_.TakeIdle()) WaitForEvent(kLongestYield);
+    if (line_.TakeWait()) WaitForEvent(kLongestYield);
     ProcessEvents();
 }
 
