@@ -21,11 +21,8 @@ std::string FileName(int number, std::string_view name) {
 
 }  // namespace
 
-StagePictures::StagePictures(ISPMain& window, SaveWindow save, std::string folder)
-    : window_(window),
-      save_(std::move(save)),
-      folder_(std::move(folder)),
-      observing_(window, *this) {}
+StagePictures::StagePictures(ISPMain& model, SaveWindow save, std::string folder)
+    : model_(model), save_(std::move(save)), folder_(std::move(folder)), observing_(model, *this) {}
 
 void StagePictures::Take(std::string_view name) {
     if (folder_.empty()) return;
@@ -35,15 +32,15 @@ void StagePictures::Take(std::string_view name) {
 
 void StagePictures::Changed(const Control& control, const PropertyBase& property) {
     const Aspect aspect = property.Which;
-    if (&control == &window_.lblResults && aspect == Aspect::Caption) {
-        Take(window_.lblResults.Caption.Get());
+    if (&control == &model_.lblResults && aspect == Aspect::Caption) {
+        Take(model_.lblResults.Caption.Get());
     }
-    if (&control == &window_.lblPrgm && aspect == Aspect::Caption) {
-        Take(window_.lblPrgm.Caption.Get());
+    if (&control == &model_.lblPrgm && aspect == Aspect::Caption) {
+        Take(model_.lblPrgm.Caption.Get());
     }
-    const bool programming = window_.ProgressBar1.Counts == ProgressBar::Unit::Lines;
-    if (&control == &window_.ProgressBar1 && aspect == Aspect::Value && programming &&
-        window_.ProgressBar1.Done() >= 0.5F && !std::exchange(middleTaken_, true)) {
+    const bool programming = model_.ProgressBar1.Counts == ProgressBar::Unit::Lines;
+    if (&control == &model_.ProgressBar1 && aspect == Aspect::Value && programming &&
+        model_.ProgressBar1.Done() >= 0.5F && !std::exchange(middleTaken_, true)) {
         Take("Programming, half done");
     }
 }

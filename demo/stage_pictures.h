@@ -13,7 +13,7 @@ class StagePictures : public Observer {
     // `save` writes the window as the product has it, without the mark of the demonstration, to
     // that file, as PNG; false: it could not. An empty `folder`: takes none.
     using SaveWindow = std::function<bool(const std::string& path)>;
-    StagePictures(ISPMain& window, SaveWindow save, std::string folder);
+    StagePictures(ISPMain& model, SaveWindow save, std::string folder);
 
     // Saves what the window shows now as NN-name.png; blanks and signs in the name become "-".
     void Take(std::string_view name);
@@ -23,7 +23,7 @@ class StagePictures : public Observer {
     void Changed(const Control& control, const PropertyBase& property) override;
 
   private:
-    const ISPMain& window_;
+    const ISPMain& model_;
     const SaveWindow save_;
     const std::string folder_;
     int count_ = 0;

@@ -13,7 +13,7 @@ class Walk {
     // `press` presses that button of the drawing, and returns when all that the press does is done.
     // `again`: a step that failed is tried a second time.
     using PressButton = std::function<void(const Button&)>;
-    Walk(const ISPMain& window, PressButton press, StagePictures& pictures, bool again);
+    Walk(const ISPMain& model, PressButton press, StagePictures& pictures, bool again);
 
     // From the getting-started page to the press on Finish or Close, which ends the program.
     void Go();
@@ -25,7 +25,7 @@ class Walk {
     void Press(const Button& button);
     void PrintStop() const;
 
-    const ISPMain& window_;
+    const ISPMain& model_;
     const PressButton press_;
     StagePictures& pictures_;
     const bool again_;

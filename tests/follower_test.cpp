@@ -138,7 +138,7 @@ TEST_F(Followers, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
         const KeyEffect space = follower.KeyDown(model.Command1, PressKey::Space, repeated);
         const bool mouse = follower.MouseDown(model.Command1);
         EXPECT_EQ(enter == KeyEffect::Press, mouse && !repeated);
-        EXPECT_EQ(space == KeyEffect::Hold, mouse && !repeated);
+        EXPECT_EQ(space == KeyEffect::PassOn, mouse && !repeated);
         return mouse;
     };
     Show(model.PicProgram);

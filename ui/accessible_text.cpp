@@ -15,15 +15,15 @@ class Reader : public ControlVisitor {
     void Visit(const Frame& frame) override { Text.name = frame.Caption; }
     void Visit(const Label& label) override {
         const std::string description = label.Style.description;
-        Text = {NameOf(label.Caption, description), description};
+        Text = {NameOf(label.Caption, description), description, ""};
     }
     void Visit(const Button& button) override { Text.name = button.Caption; }
     void Visit(const Picture& picture) override { Text.name = picture.Description; }
     void Visit(const Shape&) override {}
-    void Visit(const ProgressBar& bar) override { Text = {bar.Description, bar.DoneText()}; }
+    void Visit(const ProgressBar& bar) override { Text = {bar.Description, "", bar.DoneText()}; }
     void Visit(const StatusBar&) override {}
     void Visit(const Panel& panel) override {
-        Text = {NameOf(panel.Text, panel.Description), panel.Description};
+        Text = {NameOf(panel.Text, panel.Description), panel.Description, ""};
     }
     void Visit(const Timer&) override {}
 

@@ -10,12 +10,13 @@ namespace keplin {
 
 struct AccessibleText {
     std::string name;         // never empty for what a technician can see
-    std::string description;  // of a progress bar: how far it is, its value in words
+    std::string description;  // what the name tells, where that comes and goes
+    std::string value;        // of a progress bar: how far it is, in words
 };
 
 // As the control stands now; to be asked again when its Caption or Value changes. A button has no
 // description but that which Drawing::Describe gives it. Pages, shapes, bars around panels and
-// timers have neither.
+// timers have nothing.
 AccessibleText AccessibleTextOf(const Control& control);
 
 // A step of a progress bar that comes sooner after the one told last is not worth a word.

@@ -5,7 +5,7 @@
 
 namespace keplin {
 
-FocusKeeper::FocusKeeper(const std::vector<Control*>& controls, Drawing& drawing)
+FocusKeeper::FocusKeeper(const std::vector<const Control*>& controls, Drawing& drawing)
     : drawing_(drawing) {
     for (const Control* control : controls) {
         if (const auto* button = dynamic_cast<const Button*>(control)) buttons_.push_back(button);

@@ -11,7 +11,7 @@ namespace keplin {
 class FocusKeeper {
   public:
     // The controls of one window, and its drawing, must outlive it.
-    FocusKeeper(const std::vector<Control*>& controls, Drawing& drawing);
+    FocusKeeper(const std::vector<const Control*>& controls, Drawing& drawing);
 
     // In the order in which the focus moves from one to the next.
     [[nodiscard]] const std::vector<const Button*>& TabOrder() const { return buttons_; }

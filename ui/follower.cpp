@@ -16,7 +16,7 @@ Follower::Follower(ISPMain& model, Drawing& drawing, PressGuard::Clock clock)
 
 void Follower::Start() {
     for (const Aspect aspect : {Aspect::Caption, Aspect::Height})
-        Apply(model_, aspect);
+        Draw(model_, aspect);
     focus_.AfterChange();
     guard_.AfterChange();
     observation_.emplace(model_, *this);
@@ -26,7 +26,7 @@ void Follower::Changed(const Control& control, const PropertyBase& property) {
     const Aspect aspect = property.Which;
     const bool reach = aspect == Aspect::Visible || aspect == Aspect::Enabled;
     if (reach) focus_.BeforeChange();
-    Apply(control, aspect);
+    Draw(control, aspect);
     if (reach) {
         focus_.AfterChange();
         guard_.AfterChange();
@@ -35,17 +35,17 @@ void Follower::Changed(const Control& control, const PropertyBase& property) {
     speaker_.Changed(control, aspect);
 }
 
-void Follower::Apply(const Control& control, Aspect aspect) {
+void Follower::Draw(const Control& control, Aspect aspect) {
     drawing_.Apply(control, aspect);
     if (&control == &model_) {
-        if (aspect == Aspect::Height) ApplyHeight();
+        if (aspect == Aspect::Height) MoveStatusBars();
     } else if (aspect == Aspect::Visible) {
         RefitBeside(control);
     }
 }
 
 // The status bars follow the bottom edge.
-void Follower::ApplyHeight() {
+void Follower::MoveStatusBars() {
     for (const Control* control : model_.Controls()) {
         if (dynamic_cast<const StatusBar*>(control)) drawing_.Apply(*control, Aspect::Top);
     }
@@ -61,7 +61,7 @@ void Follower::RefitBeside(const Control& control) {
 // A key that is held down presses once.
 KeyEffect Follower::KeyDown(const Button& button, PressKey key, bool repeated) const {
     if (repeated || !guard_.Takes(button)) return KeyEffect::None;
-    return key == PressKey::Enter ? KeyEffect::Press : KeyEffect::Hold;
+    return key == PressKey::Enter ? KeyEffect::Press : KeyEffect::PassOn;
 }
 
 // A request that waited for a pause to end, or came just after it, is passed over like a press of

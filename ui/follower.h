@@ -18,9 +18,10 @@ namespace keplin {
 enum class PressKey { Enter, Space };
 
 enum class KeyEffect {
-    None,   // the key is used up and does nothing
-    Hold,   // the button goes down, and is pressed when the key comes up
-    Press,  // the button is pressed now
+    None,    // the key is used up and does nothing
+    PassOn,  // the toolkit's button does with it what it always does: on Space it goes down, and is
+             // pressed when the key comes up
+    Press,   // the button is pressed now
 };
 
 class Follower : public Observer {
@@ -60,8 +61,8 @@ class Follower : public Observer {
     void Speak() { speaker_.Speak(); }
 
   private:
-    void Apply(const Control& control, Aspect aspect);
-    void ApplyHeight();
+    void Draw(const Control& control, Aspect aspect);
+    void MoveStatusBars();
     void RefitBeside(const Control& control);
 
     ISPMain& model_;

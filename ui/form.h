@@ -19,7 +19,7 @@ class Form : public Control {
     void Accept(ControlVisitor& visitor) const override;
 
     // In the order of their making; a later one lies above an earlier one.
-    [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
+    [[nodiscard]] const std::vector<const Control*>& Controls() const { return controls_; }
 
     // The height of the client area, which the frame leaves of the outer height.
     [[nodiscard]] float ClientHeight() const;
@@ -35,7 +35,7 @@ class Form : public Control {
     friend class Control;
     friend class Observation;
 
-    std::vector<Control*> controls_;
+    std::vector<const Control*> controls_;
     std::vector<Observer*> observers_;
 };
 

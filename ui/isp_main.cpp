@@ -129,9 +129,9 @@ void Win95Shrivel(Form& xForm) {
     xForm.WindowState = Form::State::Minimised;
 }
 
-bool EndsAWait(const ISPMain& window, const Control& control, Aspect aspect) {
-    return &control == &window.cmdExit && aspect == Aspect::Enabled &&
-           window.UnderWay() == ISPMain::Job::None;
+bool EndsAWait(const ISPMain& model, const Control& control, Aspect aspect) {
+    return &control == &model.cmdExit && aspect == Aspect::Enabled &&
+           model.UnderWay() == ISPMain::Job::None;
 }
 
 void ShowPage(Page& page) {

@@ -81,7 +81,7 @@ class ISPMain : public Form {
 void Win95Shrivel(Form& xForm);
 
 // The change ended the job that the technician was waiting for.
-bool EndsAWait(const ISPMain& window, const Control& control, Aspect aspect);
+bool EndsAWait(const ISPMain& model, const Control& control, Aspect aspect);
 
 // Moves a page to the place of the shown page and shows it.
 void ShowPage(Page& page);

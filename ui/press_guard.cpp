@@ -5,8 +5,7 @@
 
 namespace keplin {
 
-PressGuard::PressGuard(const Form& window, Clock clock)
-    : window_(window), clock_(std::move(clock)) {}
+PressGuard::PressGuard(const Form& model, Clock clock) : model_(model), clock_(std::move(clock)) {}
 
 void PressGuard::Add(const Button& button) {
     entries_.push_back({&button, false, {}});
@@ -15,7 +14,7 @@ void PressGuard::Add(const Button& button) {
 void PressGuard::AfterChange() {
     for (Entry& entry : entries_) {
         const bool before =
-            std::exchange(entry.pressable, window_.Visible && entry.button->CanBePressed());
+            std::exchange(entry.pressable, model_.Visible && entry.button->CanBePressed());
         if (entry.pressable && !before) entry.came = clock_();
     }
 }

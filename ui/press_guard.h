@@ -20,7 +20,7 @@ class PressGuard {
     static constexpr std::chrono::milliseconds kPause{400};
 
     // The window and its buttons must outlive the guard.
-    PressGuard(const Form& window, Clock clock);
+    PressGuard(const Form& model, Clock clock);
 
     void Add(const Button& button);
 
@@ -37,7 +37,7 @@ class PressGuard {
         Moment came;  // when it could be pressed last after it could not
     };
 
-    const Form& window_;
+    const Form& model_;
     const Clock clock_;
     std::vector<Entry> entries_;
 };

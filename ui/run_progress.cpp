@@ -4,14 +4,13 @@
 
 namespace keplin {
 
-RunProgress ProgressAfter(const RunProgress& before, const Control& changed,
-                          const ISPMain& window) {
+RunProgress ProgressAfter(const RunProgress& before, const Control& changed, const ISPMain& model) {
     using enum RunProgress::State;
-    if (&changed == &window.cmdPortTest) return before;  // see UnderWay
-    const ProgressBar& bar = window.ProgressBar1;
-    if (window.UnderWay() == ISPMain::Job::Update)
+    if (&changed == &model.cmdPortTest) return before;  // see UnderWay
+    const ProgressBar& bar = model.ProgressBar1;
+    if (model.UnderWay() == ISPMain::Job::Update)
         return {UnderWay, bar.Shown() ? static_cast<int>(std::lround(100 * bar.Done())) : 0};
-    if (before.state == None || !window.Command1.Shown()) return {};
+    if (before.state == None || !model.Command1.Shown()) return {};
     return {Stopped, before.percent};
 }
 

@@ -15,6 +15,6 @@ struct RunProgress {
 
 // How it stands after that control changed. An update that stopped stays so until the next one
 // begins.
-RunProgress ProgressAfter(const RunProgress& before, const Control& changed, const ISPMain& window);
+RunProgress ProgressAfter(const RunProgress& before, const Control& changed, const ISPMain& model);
 
 }  // namespace keplin

@@ -27,18 +27,18 @@ bool SpokenTexts::Changed(const Control& control, Aspect aspect) {
     }
     if (aspect == Aspect::Visible) {
         // Labels that come with their page; what a frame holds is read when the focus enters it.
-        for (const Control* other : window_.Controls()) {
+        for (const Control* other : model_.Controls()) {
             if (other->Container == &control && dynamic_cast<const Label*>(other)) Add(*other);
         }
     }
-    if (&control == &window_.cmdExit && aspect == Aspect::Enabled) FollowJob();
+    if (&control == &model_.cmdExit && aspect == Aspect::Enabled) FollowJob();
     return fresh_.runStopped || !fresh_.texts.empty();
 }
 
 void SpokenTexts::FollowJob() {
-    const ISPMain::Job before = std::exchange(job_, window_.UnderWay());
+    const ISPMain::Job before = std::exchange(job_, model_.UnderWay());
     if (before != ISPMain::Job::Update || !RunStopped()) return;
-    Add(window_.lblPrgm);
+    Add(model_.lblPrgm);
     fresh_.runStopped = true;
 }
 
@@ -58,11 +58,11 @@ std::string SpokenTexts::Latest() const {
 }
 
 bool SpokenTexts::RunStopped() const {
-    return window_.UnderWay() == ISPMain::Job::None && window_.Command1.Shown();
+    return model_.UnderWay() == ISPMain::Job::None && model_.Command1.Shown();
 }
 
 bool SpokenTexts::CanBeRead(const Control& control) const {
-    return window_.Visible && control.Shown() && !control.TextToRead().empty();
+    return model_.Visible && control.Shown() && !control.TextToRead().empty();
 }
 
 void SpokenTexts::Add(const Control& control) {

@@ -10,7 +10,7 @@ namespace keplin {
 
 class SpokenTexts {
   public:
-    explicit SpokenTexts(const ISPMain& window) : window_(window) {}
+    explicit SpokenTexts(const ISPMain& model) : model_(model) {}
 
     // Takes note of a change. True when there is something new to speak.
     bool Changed(const Control& control, Aspect aspect);
@@ -39,7 +39,7 @@ class SpokenTexts {
     void Add(const Control& control);
     void FollowJob();
 
-    const ISPMain& window_;
+    const ISPMain& model_;
     News fresh_;
     News taken_;
     ISPMain::Job job_ = ISPMain::Job::None;

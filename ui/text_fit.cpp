@@ -43,7 +43,8 @@ bool Covers(const Control& sibling, const Control& label) {
 
 }  // namespace
 
-TextFit::TextFit(const std::vector<Control*>& controls, Scale scale, const TextMeasure& measure)
+TextFit::TextFit(const std::vector<const Control*>& controls, Scale scale,
+                 const TextMeasure& measure)
     : controls_(controls), scale_(scale), measure_(measure), font_(Choose()) {}
 
 // To find a family under another name takes a system a while: each is asked for only when its turn

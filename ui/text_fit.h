@@ -21,7 +21,7 @@ class TextFit {
   public:
     // The controls of one window, and the measure, must outlive it. Measures at once to choose the
     // font.
-    TextFit(const std::vector<Control*>& controls, Scale scale, const TextMeasure& measure);
+    TextFit(const std::vector<const Control*>& controls, Scale scale, const TextMeasure& measure);
 
     // Of every text that sets no size of its own: the largest size at which some family fits every
     // label's text, and the first such family; where none does, the desktop's own at the smallest.
@@ -45,7 +45,7 @@ class TextFit {
     [[nodiscard]] bool Fits(const Label& label, const TextFont& font, const TextRoom& room) const;
     [[nodiscard]] const Inks& InksOf(const Label& label, const TextFont& font, double width) const;
 
-    const std::vector<Control*>& controls_;
+    const std::vector<const Control*>& controls_;
     const Scale scale_;
     const TextMeasure& measure_;
     mutable std::map<std::tuple<std::string, TextFont, Alignment, double>, Inks> known_;

@@ -74,7 +74,7 @@ void Tell(QAccessibleEvent* event) {
 
 }  // namespace
 
-void InstallAccessible() {
+void ServeScreenReaders() {
     QAccessible::installFactory(Create);
     QAccessible::installUpdateHandler(Tell);
 }

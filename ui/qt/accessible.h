@@ -5,6 +5,6 @@ namespace keplin::qt {
 
 // Takes effect for every widget that a screen reader asks about from then on. May be called more
 // than once.
-void InstallAccessible();
+void ServeScreenReaders();
 
 }  // namespace keplin::qt

@@ -26,7 +26,7 @@ ButtonWidget::ButtonWidget(const Button& button, const Look& look, Follower& fol
                            QWidget* parent)
     : QPushButton(parent), button_(button), look_(look), follower_(follower) {
     setFocusPolicy(Qt::StrongFocus);
-    ApplyCommon(*this, button, look.scale);
+    SetUp(*this, button, look.scale);
     ApplyCaption();
     connect(this, &QPushButton::clicked, this, [this] { follower_.Press(button_); });
 }
@@ -44,8 +44,8 @@ void ButtonWidget::ApplyCaption() {
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
     const auto key = PressKeyOf(event->key());
     const KeyEffect effect =
-        key ? follower_.KeyDown(button_, *key, event->isAutoRepeat()) : KeyEffect::Hold;
-    if (effect == KeyEffect::Hold) QPushButton::keyPressEvent(event);
+        key ? follower_.KeyDown(button_, *key, event->isAutoRepeat()) : KeyEffect::PassOn;
+    if (effect == KeyEffect::PassOn) QPushButton::keyPressEvent(event);
     if (effect == KeyEffect::Press) click();
 }
 

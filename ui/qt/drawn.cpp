@@ -18,14 +18,14 @@ void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale, As
             widget.setGeometry(ToQt(scale.PlaceOf(control)));
             break;
         case Aspect::Caption:
-            ApplyAccessible(widget, control);
+            TellWhatItIs(widget, control);
             break;
         default:
             break;
     }
 }
 
-void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale) {
+void SetUp(QWidget& widget, const Control& control, const Scale& scale) {
     widget.setObjectName(ToQt(control.Name));
     for (const Aspect aspect : {Aspect::Left, Aspect::Enabled, Aspect::Visible, Aspect::Caption}) {
         ApplyCommon(widget, control, scale, aspect);
@@ -33,7 +33,7 @@ void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale) {
 }
 
 // A description that is not the control's own stays.
-void ApplyAccessible(QWidget& widget, const Control& control) {
+void TellWhatItIs(QWidget& widget, const Control& control) {
     const AccessibleText text = AccessibleTextOf(control);
     const QString name = ToQt(text.name);
     const QString description = ToQt(text.description);

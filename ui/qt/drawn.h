@@ -25,10 +25,10 @@ class Drawn {
 void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale, Aspect aspect);
 
 // Gives a new widget all that every control has.
-void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale);
+void SetUp(QWidget& widget, const Control& control, const Scale& scale);
 
 // Tells a screen reader what the control is now.
-void ApplyAccessible(QWidget& widget, const Control& control);
+void TellWhatItIs(QWidget& widget, const Control& control);
 
 // Draws the rectangle's outline along its inside, one pixel of the screen wide.
 void DrawOutline(QPainter& painter, const QRectF& rectangle, const QColor& colour);

@@ -6,7 +6,7 @@ namespace keplin::qt {
 
 PageWidget::PageWidget(const Page& page, const Look& look, QWidget* parent)
     : QWidget(parent), page_(page), look_(look) {
-    ApplyCommon(*this, page, look.scale);
+    SetUp(*this, page, look.scale);
 }
 
 void PageWidget::Apply(Aspect aspect) {
@@ -19,7 +19,7 @@ void PageWidget::paintEvent(QPaintEvent*) {
 
 FrameWidget::FrameWidget(const Frame& frame, const Look& look, QWidget* parent)
     : QGroupBox(parent), frame_(frame), look_(look) {
-    ApplyCommon(*this, frame, look.scale);
+    SetUp(*this, frame, look.scale);
 }
 
 void FrameWidget::Apply(Aspect aspect) {

@@ -9,7 +9,7 @@ LabelWidget::LabelWidget(const Label& label, const Look& look, QWidget* parent)
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    ApplyCommon(*this, label, look.scale);
+    SetUp(*this, label, look.scale);
     setText(ToQt(label.Caption));
     Refit();
 }

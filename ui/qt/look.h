@@ -12,7 +12,7 @@
 namespace keplin::qt {
 
 struct Look {
-    const Form& form;
+    const Form& model;
     const Scale scale;
     const TextLayoutMeasure measure;
     const TextFit fit;

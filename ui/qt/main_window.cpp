@@ -29,11 +29,13 @@ Scale ScaleOf(const QWidget& window, const Form& form) {
 
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     : QWidget(nullptr, kFrame),
-      form_(model),
-      look_{
-          form_, ScaleOf(*this, form_), {}, TextFit(model.Controls(), look_.scale, look_.measure)},
+      model_(model),
+      look_{model_,
+            ScaleOf(*this, model_),
+            {},
+            TextFit(model.Controls(), look_.scale, look_.measure)},
       follower_(model, *this, std::move(clock)) {
-    InstallAccessible();
+    ServeScreenReaders();
     setFont(ToQt(look_.fit.Font()));
     setWindowIcon(ProgramIcon());
     WidgetFactory factory(*this, look_, follower_);
@@ -52,7 +54,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::Apply(const Control& control, Aspect aspect) {
-    if (&control == &form_) {
+    if (&control == &model_) {
         ApplyToWindow(aspect);
     } else {
         drawn_.at(&control)->Apply(aspect);
@@ -101,19 +103,19 @@ void MainWindow::Announce(const Button& button, const std::string& news) {
 }
 
 void MainWindow::ApplyToWindow(Aspect aspect) {
-    const PixelSize client = look_.scale.ClientSize(form_);
-    if (aspect == Aspect::Caption) setWindowTitle(ToQt(form_.Caption));
+    const PixelSize client = look_.scale.ClientSize(model_);
+    if (aspect == Aspect::Caption) setWindowTitle(ToQt(model_.Caption));
     if (aspect == Aspect::Height) setFixedSize(client.width, client.height);
-    if (aspect == Aspect::Visible && form_.Visible) ShowCentred();
-    if (aspect == Aspect::Visible && !form_.Visible) hide();
-    if (aspect == Aspect::WindowState && form_.WindowState.Get() == Form::State::Minimised) {
+    if (aspect == Aspect::Visible && model_.Visible) ShowCentred();
+    if (aspect == Aspect::Visible && !model_.Visible) hide();
+    if (aspect == Aspect::WindowState && model_.WindowState.Get() == Form::State::Minimised) {
         showMinimized();
     }
 }
 
 // The frame's height is the model's word: the desktop tells its own only after the window is shown.
 void MainWindow::ShowCentred() {
-    const PixelSize outer{width(), look_.scale.Pixels(form_.Height)};
+    const PixelSize outer{width(), look_.scale.Pixels(model_.Height)};
     move(ToQt(Centred(outer, FromQt(screen()->availableGeometry()))).topLeft());
     show();
 }

@@ -34,7 +34,7 @@ class MainWindow : public QWidget, public Drawing {
     void ShowCentred();
     [[nodiscard]] QWidget& WidgetOf(const Button& button) const;
 
-    const Form& form_;
+    const Form& model_;
     const Look look_;
     Follower follower_;
     std::unordered_map<const Control*, Drawn*> drawn_;

@@ -43,7 +43,7 @@ QPixmap Draw(const QString& name, QSize pixels) {
 
 PictureWidget::PictureWidget(const Picture& picture, const Look& look, QWidget* parent)
     : QLabel(parent), picture_(picture), look_(look) {
-    ApplyCommon(*this, picture, look.scale);
+    SetUp(*this, picture, look.scale);
     Render();
 }
 

@@ -12,7 +12,7 @@ ProgressBarWidget::ProgressBarWidget(const ProgressBar& bar, const Look& look, Q
       showTimer_(Throttle::kBar, [this] { ShowDone(); }) {
     setTextVisible(false);
     setRange(0, kBarSteps);
-    ApplyCommon(*this, bar, look.scale);
+    SetUp(*this, bar, look.scale);
     showTimer_.ShowNow();
 }
 

@@ -9,7 +9,7 @@ ShapeWidget::ShapeWidget(const Shape& shape, const Look& look, QWidget* parent)
       showTimer_(Throttle::kShape, [this] { MoveSideways(); }) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent, shape.Fill.has_value());
-    ApplyCommon(*this, shape, look.scale);
+    SetUp(*this, shape, look.scale);
 }
 
 void ShapeWidget::Apply(Aspect aspect) {

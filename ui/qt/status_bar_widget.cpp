@@ -34,7 +34,7 @@ void PanelWidget::Show(const PanelView& view) {
     setIndent(view.margin);
     setText(ToQt(view.text));
     setToolTip(ToolTip(ToQt(view.toolTip)));
-    ApplyAccessible(*this, panel_);
+    TellWhatItIs(*this, panel_);
 }
 
 // The bevel's two sides differ from the window by the same little in a light and in a dark theme.
@@ -53,7 +53,7 @@ StatusBarWidget::StatusBarWidget(const StatusBar& bar, const Look& look, QWidget
 
 void StatusBarWidget::Apply(Aspect) {
     setVisible(bar_.Visible);
-    setGeometry(ToQt(look_.scale.PlaceAtBottom(bar_, look_.form)));
+    setGeometry(ToQt(look_.scale.PlaceAtBottom(bar_, look_.model)));
     Arrange();
 }
 

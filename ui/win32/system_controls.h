@@ -62,7 +62,7 @@ class ButtonControl final : public Drawn {
         const bool repeated = (HIWORD(details) & KF_REPEAT) != 0;
         const KeyEffect effect = look_.follower.KeyDown(button_, pressing, repeated);
         if (effect == KeyEffect::Press) PostMessageW(Handle(), kPress, 0, 0);
-        return effect != KeyEffect::Hold;
+        return effect != KeyEffect::PassOn;
     }
 
     const Button& button_;
