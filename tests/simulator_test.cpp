@@ -78,7 +78,7 @@ TEST(SimulatedLoader, ErasesEachBlockWhollyAndNoOther) {
         Loader loader;
         Send(loader, kCalibration + ":01800000116E:01BFFF00443D:01C00000221D:01FFFF0033CE");
         std::vector expected(loader.Memory().Cells().begin(), loader.Memory().Cells().end());
-        EXPECT_EQ(expected[0xFFFF], 0x33);
+        EXPECT_TRUE(expected[0x8000] == 0x11 && expected[0xFFFF] == 0x33);
         std::fill_n(expected.data() + block.first, block.size, Flash::kErased);
         EXPECT_EQ(Send(loader, record), record + ".\r\n");
         EXPECT_TRUE(std::ranges::equal(loader.Memory().Cells(), expected)) << record;
@@ -132,7 +132,7 @@ TEST(SimulatedFaults, EachChangesOneReply) {
         Loader loader;
         FaultyDevice device(loader, 1);
         device.Inject({kind, 2, false});
-        EXPECT_EQ(Send(device, "U"), "U");
+        EXPECT_EQ(Send(device, "?"), "");
         EXPECT_EQ(Send(device, kCalibration), reply);
         EXPECT_EQ(loader.ObeyedRecords().size(), obeyed ? 1u : 0u);
         if (device.HungUp()) device.LineClosed();
