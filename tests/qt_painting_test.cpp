@@ -97,16 +97,21 @@ TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
     EXPECT_TRUE(IsPainted(model.Shape2, Qt::blue, 1));
     Show(model.PicSetup);
     EXPECT_TRUE(IsPainted(model.lblResults, QColor(255, 255, 192)));
+    EXPECT_TRUE(IsPainted(model.lblResults, Qt::black, 1)) << "its border";
     const std::tuple<const Picture*, QPointF, QColor> spots[] = {
         {&model.Image1, {0.5, 0.15}, {255, 208, 48}},              // the arrow
         {&model.Image2, {113.0 / 292, 97.0 / 105}, {8, 96, 72}}};  // the board's rim
-    for (const auto& [picture, spot, colour] : spots) {
-        const auto* shown = Find<QLabel>(*picture);
-        const QImage image = shown->pixmap(Qt::ReturnByValue).toImage();
-        EXPECT_EQ(image.size(), (QSizeF(shown->size()) * window.devicePixelRatioF()).toSize());
-        const QPointF place(spot.x() * image.width(), spot.y() * image.height());
-        EXPECT_EQ(image.pixelColor(place.toPoint()), colour) << picture->Name;
-        EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "on a ground of its own";
+    for (QScreen* screen : QApplication::screens()) {
+        window.setScreen(screen);
+        for (const auto& [picture, spot, colour] : spots) {
+            auto* shown = Find<QLabel>(*picture);
+            shown->grab();
+            const QImage image = shown->pixmap(Qt::ReturnByValue).toImage();
+            EXPECT_EQ(image.size(), (QSizeF(shown->size()) * window.devicePixelRatioF()).toSize());
+            const QPointF place(spot.x() * image.width(), spot.y() * image.height());
+            EXPECT_EQ(image.pixelColor(place.toPoint()), colour) << picture->Name;
+            EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "on a ground of its own";
+        }
     }
     Find(model.cmdPortTest)->setFocus();
     const QImage focused = Find(model.cmdPortTest)->grab().toImage();
