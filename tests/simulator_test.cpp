@@ -205,5 +205,17 @@ TEST(SimulatedWire, ADeviceAtRestMayGoOnSending) {
         EXPECT_NE(wire.ReadAtHost(i * kByteTime), std::nullopt) << i;
 }
 
+TEST(SimulatedWire, AHangUpLosesWhatIsOnItsWayAndWhatIsSentBeforeItIsNoticed) {
+    Loader loader;
+    FaultyDevice device(loader, 1);
+    device.Inject({FaultKind::HangUp, 2, false});
+    Wire wire(device);
+    wire.HostSends(std::vector<std::uint8_t>{'U', ':', 'U'}, Time{0});
+    EXPECT_EQ(wire.ReadAtHost(2 * kByteTime), std::nullopt);
+    wire.HostSends(std::vector<std::uint8_t>{'U'}, 2 * kByteTime);
+    EXPECT_TRUE(wire.PlugIn());
+    EXPECT_EQ(wire.ReadAtHost(9 * kByteTime), std::nullopt);
+}
+
 }  // namespace
 }  // namespace keplin::simulator
