@@ -1,4 +1,6 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QAbstractEventDispatcher>
@@ -10,28 +12,35 @@
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
+#include <QThread>
 #include <QTimer>
 #include <QTreeView>
 #include <array>
 #include <chrono>
+#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "platform/posix/unique_fd.h"
 #include "tests/support/qt_window.h"
 
 namespace keplin::test {
 namespace {
 
+using namespace std::chrono_literals;
 using DesktopServices = QtWindow;
 
 TEST_F(DesktopServices, TheTimerTicksWhileItIsEnabled) {
     int ticks = 0;
     model.Timer1.OnTimer = [&] { ++ticks; };
+    const auto start = desktop.Now();
     model.Timer1.Enabled = true;
     EXPECT_TRUE(Until([&] { return ticks == 3; }));
+    EXPECT_GE(desktop.Now() - start, 5ms);
     model.Timer1.Enabled = false;
     EXPECT_FALSE(window.findChild<QTimer*>("Timer1")->isActive());
 }
@@ -75,6 +84,36 @@ TEST_F(DesktopServices, WhatWasSetIsPaintedAndHandedOverBeforeASleepWhichHandles
     desktop.Sleep(std::chrono::milliseconds(20));
     EXPECT_GE(desktop.Now() - start, std::chrono::milliseconds(20));
     EXPECT_EQ(happened, (std::vector<std::string>{"painted", "handed over"}));
+}
+
+// A bus that takes questions and answers none, until `asked` is closed.
+TEST_F(DesktopServices, ToStayAwakeIsAskedForWithoutWaitingForTheAnswer) {
+    const QTemporaryDir folder;
+    const QByteArray pipe = QFile::encodeName(folder.filePath("pipe"));
+    ASSERT_EQ(mkfifo(pipe, 0600), 0);
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unixexec:path=cat,argv1=" + pipe);
+    const auto start = desktop.Now();
+    desktop.KeepAwake(true);
+    UniqueFd asked;
+    EXPECT_TRUE(Until([&] {
+        asked = UniqueFd(open(pipe, O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+        return static_cast<bool>(asked);
+    }));
+    desktop.KeepAwake(false);
+    EXPECT_LT(desktop.Now() - start, 15s);
+}
+
+TEST_F(DesktopServices, TheThreadsThatDrawAreThereBeforeTheyAreNeeded) {
+    const auto drawing = [] {
+        int threads = 0;
+        for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task")) {
+            std::string name;
+            std::getline(std::ifstream(thread.path() / "comm"), name);
+            threads += name == "Thread (pooled)" ? 1 : 0;
+        }
+        return threads;
+    };
+    EXPECT_TRUE(Until([&] { return drawing() == std::min(QThread::idealThreadCount(), 8); }));
 }
 
 // The open-file dialog, in a folder of its own.
@@ -139,6 +178,9 @@ TEST_F(QtDialog, WhatIsTypedCountsWithOneReturnWhetherOrNotThereIsSuchAFile) {
 }
 
 TEST_F(QtDialog, ShowsTheNewestFileFirstInCapitalsOrNot) {
+    const QTemporaryDir home;
+    QDir(home.path()).mkdir("Downloads");
+    qputenv("HOME", QFile::encodeName(home.path()));
     int age = 0;
     for (const char* name : {"3.txt", "5.HEX", "2.hex", "6.HEX", "1.HEX", "7.hex", "4.HEX"})
         MakeFile(name, ++age);
@@ -146,7 +188,18 @@ TEST_F(QtDialog, ShowsTheNewestFileFirstInCapitalsOrNot) {
         const char* newestFirst = "5.HEX 2.hex 6.HEX 1.HEX 7.hex 4.HEX";
         EXPECT_TRUE(Until([&] { return NamesIn(dialog) == newestFirst; })) << NamesIn(dialog);
         EXPECT_EQ(dialog.selectedNameFilter(), "QDX-470 Files (*.HEX)");
-        EXPECT_TRUE(dialog.sidebarUrls().contains(QUrl::fromLocalFile(QDir::homePath())));
+        EXPECT_EQ(dialog.windowTitle(), "Select");
+        const QList<QUrl> places = dialog.sidebarUrls();
+        EXPECT_EQ(places.mid(0, 2), (QList{QUrl::fromLocalFile(home.filePath("Downloads")),
+                                           QUrl::fromLocalFile(home.path())}));
+        EXPECT_EQ(places.last(), QUrl("file:"));
+        for (const auto& [view, column] : std::initializer_list<std::pair<const char*, int>>{
+                 {"treeView", 0}, {"treeView", 3}, {"sidebar", 0}}) {
+            auto* list = dialog.findChild<QAbstractItemView*>(view);
+            EXPECT_LE(list->sizeHintForColumn(column),
+                      list->visualRect(list->model()->index(0, column, list->rootIndex())).width())
+                << view << column;
+        }
     });
     const auto watchersOfPlaces = [&] { return window.findChildren<QFileSystemWatcher*>(); };
     EXPECT_TRUE(Until([&] { return watchersOfPlaces().isEmpty(); })) << "the dialog is closed";

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <algorithm>
+#include <tuple>
 
 #include "tests/support/qt_window.h"
 #include "tests/support/text_fit.h"
@@ -18,6 +19,8 @@ TEST_F(QtWindow, EveryTextIsWholeAtEveryStage) {
     const int full = qRound(9330 * window.logicalDpiX() / 1440.0);
     EXPECT_LE(window.height() + 40, screen.height());  // room for a title bar
     EXPECT_EQ(window.width(), std::min(full, screen.width() - 4));
+    const int middle = PaintedInk(*Find<QLabel>(model.Label8)).center().x();
+    EXPECT_NEAR(middle, Find(model.Label8)->width() / 2, 2);
     const std::vector<std::string> none;
     model.StatusBar1.Panels(2).Text = " Number of Lines: 10001  ";
     model.StatusBar2.Panels(1).Text = " File Size: 5240524     Hex: 4FF68C";
@@ -68,7 +71,9 @@ TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
     QApplication::setPalette(QPalette(QColor(40, 40, 40)));
     desktop.YieldOnce();
     model.lblResults.Caption = "Query to Port 1";
-    model.lblPrgm.Visible = true;
+    for (Control* hidden :
+         std::initializer_list<Control*>{&model.lblPrgm, &model.Shape1, &model.Shape2})
+        hidden->Visible = true;
     for (Page* page : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {
         Show(*page);
         EXPECT_TRUE(IsPainted(*page, QColor(192, 192, 255), 4)) << page->Name;
@@ -78,18 +83,36 @@ TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
             const bool onPage = control->Container != nullptr && control->Shown();
             if (!onPage || !(frame || label) || control == &model.Label10) continue;
             EXPECT_TRUE(IsPainted(*control, Qt::black, frame ? 12 : 1000)) << control->Name;
+            if (!frame) continue;
+            const QImage image = Find(*control)->grab().toImage();
+            const QPoint end = image.rect().bottomRight();
+            for (const QPoint on :
+                 {QPoint(0, end.y() / 2), {end.x(), end.y() / 2}, {end.x() / 2, end.y()}})
+                EXPECT_EQ(image.pixelColor(on), QColor(120, 120, 159)) << control->Name;
         }
     }
     EXPECT_TRUE(IsPainted(model.Label10, Qt::red));
-    EXPECT_TRUE(IsPainted(model.Label8, QApplication::palette().windowText().color()));
+    for (const Control* control : std::initializer_list<Control*>{&model.Label8, &model.Shape1})
+        EXPECT_TRUE(IsPainted(*control, QApplication::palette().windowText().color()));
+    EXPECT_TRUE(IsPainted(model.Shape2, Qt::blue, 1));
     Show(model.PicSetup);
     EXPECT_TRUE(IsPainted(model.lblResults, QColor(255, 255, 192)));
-    const auto* picture = Find<QLabel>(model.Image2);
-    const QSize sharp = (QSizeF(picture->size()) * window.devicePixelRatioF()).toSize();
-    const QImage image = picture->pixmap(Qt::ReturnByValue).toImage();
-    EXPECT_EQ(image.size(), sharp);
-    const QPointF rim(113.0 / 292 * sharp.width(), 97.0 / 105 * sharp.height());  // of the board
-    EXPECT_EQ(image.pixelColor(rim.toPoint()), QColor(8, 96, 72));
+    EXPECT_TRUE(IsPainted(model.lblResults, Qt::black, 1)) << "its border";
+    const std::tuple<const Picture*, QPointF, QColor> spots[] = {
+        {&model.Image1, {0.5, 0.15}, {255, 208, 48}},              // the arrow
+        {&model.Image2, {113.0 / 292, 97.0 / 105}, {8, 96, 72}}};  // the board's rim
+    for (QScreen* screen : QApplication::screens()) {
+        window.setScreen(screen);
+        for (const auto& [picture, spot, colour] : spots) {
+            auto* shown = Find<QLabel>(*picture);
+            shown->grab();
+            const QImage image = shown->pixmap(Qt::ReturnByValue).toImage();
+            EXPECT_EQ(image.size(), (QSizeF(shown->size()) * window.devicePixelRatioF()).toSize());
+            const QPointF place(spot.x() * image.width(), spot.y() * image.height());
+            EXPECT_EQ(image.pixelColor(place.toPoint()), colour) << picture->Name;
+            EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "on a ground of its own";
+        }
+    }
     Find(model.cmdPortTest)->setFocus();
     const QImage focused = Find(model.cmdPortTest)->grab().toImage();
     Find(model.cmdExit)->setFocus();

@@ -12,6 +12,7 @@
 #include <chrono>
 #include <span>
 #include <system_error>
+#include <utility>
 
 namespace keplin::simulator {
 namespace {
@@ -113,14 +114,14 @@ void PseudoTerminalLine::FollowHangUp() {
         PlugIn();
     } catch (const std::system_error&) {
         // No pseudo-terminal to be had at the moment: the device stays unplugged until there is.
-        Unplug();
     }
 }
 
 void PseudoTerminalLine::PlugIn() {
-    master_ = OpenMaster();
+    UniqueFd master = OpenMaster();
+    Checked(::dup3(HostEnd(master).Get(), hostEnd_.Get(), O_CLOEXEC), "dup3");
+    master_ = std::move(master);
     hostThere_ = true;
-    Checked(::dup3(HostEnd(master_).Get(), hostEnd_.Get(), O_CLOEXEC), "dup3");
 }
 
 // What hostEnd_ stands for cannot be opened any more, not even when the system gives the terminal's

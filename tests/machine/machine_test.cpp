@@ -26,6 +26,12 @@ TEST(Machine, ListsItsPortsInOrderAndNoPhantoms) {
     }
 }
 
+TEST(Machine, OpensNoLineThatStaysAtItsOwnSpeed) {
+    const Gadget gadget("/dev/ttyACM0");
+    PosixPort port(Only("/dev/ttyGS0"));
+    EXPECT_EQ(OpenPort(port, 1), 0) << "of 9600 bit/s, whatever it is told";
+}
+
 class EachDriver : public testing::TestWithParam<const char*> {
   protected:
     const std::string device_ = std::string("/dev/") + GetParam();

@@ -1,5 +1,5 @@
 // Which texts of a window are not whole: each is drawn anew with its widget's font, by Qt's own
-// means, and the ink compared with the room that the widget has.
+// means, and the ink compared with the room that the widget has and with what it paints.
 #pragma once
 
 #include <QImage>
@@ -8,12 +8,24 @@
 #include <QPushButton>
 #include <QWidget>
 #include <algorithm>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
 namespace keplin::test {
 
-// The pixels that a label's text blackens, from the label's corner, were there room all around.
+// The pixels of the image that a text has darkened.
+inline QRect InkIn(const QImage& image) {
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qGray(image.pixel(x, y)) < 200) ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+// What a label's text darkens, from the label's corner, were there room all around.
 inline QRect InkOf(const QLabel& label) {
     constexpr int kSpace = 200;
     QImage image(label.size() + QSize(kSpace, kSpace), QImage::Format_Grayscale8);
@@ -23,13 +35,22 @@ inline QRect InkOf(const QLabel& label) {
     const auto flags = static_cast<int>(label.alignment() & Qt::AlignHorizontal_Mask);
     painter.drawText(QRect(0, 0, label.width(), image.height()), flags | Qt::TextWordWrap,
                      label.text());
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (qGray(image.pixel(x, y)) < 200) ink |= QRect(x, y, 1, 1);
-        }
-    }
-    return ink;
+    return InkIn(image);
+}
+
+// What the label darkens within its outermost pixels, which may be a border.
+inline QRect PaintedInk(QLabel& label) {
+    QImage image(label.size(), QImage::Format_Grayscale8);
+    image.fill(Qt::white);
+    label.render(&image, {}, {}, {});
+    return InkIn(image.copy(label.rect().adjusted(1, 1, -1, -1))).translated(1, 1);
+}
+
+// But for its place in the line, and what rounding each line adds up to.
+inline bool IsAlike(const QRect& ink, const QRect& other) {
+    const auto isNear = [](int a, int b) { return std::abs(a - b) <= 4; };
+    return isNear(ink.top(), other.top()) && isNear(ink.bottom(), other.bottom()) &&
+           isNear(ink.width(), other.width());
 }
 
 // A widget that lies above the label and hides some of its text.
@@ -58,7 +79,7 @@ inline bool IsWhole(QLabel& label) {
         return !IsCutOff(label) && label.fontMetrics().height() <= label.contentsRect().height();
     }
     const QRect ink = InkOf(label);
-    return label.rect().contains(ink) && !IsCovered(label, ink);
+    return label.rect().contains(ink) && !IsCovered(label, ink) && IsAlike(PaintedInk(label), ink);
 }
 
 // The names of the visible labels, panels and buttons whose text is cut off or covered now.

@@ -8,7 +8,6 @@ LabelWidget::LabelWidget(const Label& label, const Look& look, QWidget* parent)
     : QLabel(parent), label_(label), look_(look) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     SetUp(*this, label, look.scale);
     setText(ToQt(label.Caption));
     Refit();

@@ -22,7 +22,6 @@ void Replace(std::unique_ptr<QSocketNotifier>& notifier, int descriptor,
 LineWatch::LineWatch(WatchedDescriptor& line) : line_(line) {
     line.OnLineChange = [this](int descriptor) { Watch(descriptor); };
     limit_.setSingleShot(true);
-    limit_.setTimerType(Qt::PreciseTimer);
     limit_.setInterval(kLimitMs);
 }
 

@@ -7,7 +7,6 @@ ShapeWidget::ShapeWidget(const Shape& shape, const Look& look, QWidget* parent)
       shape_(shape),
       look_(look),
       showTimer_(Throttle::kShape, [this] { MoveSideways(); }) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent, shape.Fill.has_value());
     SetUp(*this, shape, look.scale);
 }

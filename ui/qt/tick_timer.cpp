@@ -4,7 +4,6 @@ namespace keplin::qt {
 
 TickTimer::TickTimer(const Timer& timer, QObject* parent) : QTimer(parent), timer_(timer) {
     setObjectName(ToQt(timer.Name));
-    setTimerType(Qt::PreciseTimer);
     setInterval(timer.Interval);
     callOnTimeout(this, [this] { timer_.Tick(); });
     Apply(Aspect::Enabled);
