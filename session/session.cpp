@@ -47,15 +47,6 @@ Session::Session(ISPMain& window, SerialPort& port, Desktop& desktop)
     window.OnCloseRequest = On(&Session::Form_CloseRequest);
 }
 
-Session::~Session() {
-    for (Button* button : {&window_.Next_1, &window_.cmdPortTest, &window_.Next_2,
-                           &window_.Command1, &window_.cmdExit}) {
-        button->OnClick = nullptr;
-    }
-    window_.Timer1.OnTimer = nullptr;
-    window_.OnCloseRequest = nullptr;
-}
-
 std::function<void()> Session::On(Handler handler) {
     return [this, handler] {
         if (!closing_) PassOver([&] { (this->*handler)(); });

@@ -15,11 +15,10 @@
 namespace keplin {
 
 // What stands behind one window. It answers the window's events from its making on; window, port
-// and desktop must outlive it.
+// and desktop must outlive it, and no event of the window may come after it.
 class Session {
   public:
     Session(ISPMain& window, SerialPort& port, Desktop& desktop);
-    ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 

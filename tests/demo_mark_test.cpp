@@ -14,6 +14,7 @@ TEST_F(QtWindow, TheDemonstrationIsMarkedOnEveryPageAndHidesNothingButTheIcon) {
     QWidget& ribbon = MarkAsDemonstration(window);
     EXPECT_TRUE(window.windowTitle().startsWith("DEMONSTRATION"));
     EXPECT_TRUE(window.windowTitle().endsWith(title.trimmed()));
+    EXPECT_EQ(window.windowIcon().availableSizes().size(), 3);
     EXPECT_NE(window.windowIcon().pixmap(16).toImage(), product);
     const QRectF icon = Find(model.Image1)->geometry();
     for (Page* page : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {

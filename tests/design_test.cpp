@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "tests/support/data.h"
+#include "ui/accessible_text.h"
 #include "ui/isp_main.h"
 
 namespace keplin::test {
@@ -78,6 +79,10 @@ std::string LineOf(const Control& control) {
     }
     if (!control.Visible) line << ", hidden";
     if (!control.Enabled) line << ", disabled";
+    const AccessibleText heard = AccessibleTextOf(control);
+    for (const std::string& text : {heard.name, heard.description, heard.value}) {
+        if (line.str().find(text) == std::string::npos) line << ", heard \"" << text << '"';
+    }
     return line.str() + "\n";
 }
 

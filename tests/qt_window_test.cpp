@@ -157,7 +157,7 @@ TEST_F(QtWindow, PanelsShareTheirBarAndShortenALongPath) {
 TEST_F(QtWindow, AScreenReaderIsToldOfEveryControl) {
     for (const Control* control : model.Controls()) {
         const std::string name = AccessibleTextOf(*control).name;
-        if (name.empty() || control == &model) continue;
+        if (name.empty()) continue;
         EXPECT_EQ(Read(*control), name) << control->Name;
     }
     model.ProgressBar1.Value = 33;

@@ -15,6 +15,7 @@ TEST(Window, NothingElseCanBeStartedDuringAPortTest) {
     rig.desktop.OnYield = [&] {
         EXPECT_FALSE(rig.window.cmdPortTest.Enabled || rig.window.cmdExit.Enabled);
         rig.window.cmdPortTest.Press();
+        rig.window.Next_2.Press();
         rig.window.RequestClose();
     };
     rig.window.cmdPortTest.Press();
@@ -29,11 +30,12 @@ TEST(Window, TellsHowAnUpdateStands) {
         return progress = ProgressAfter(progress, changed, window);
     };
     window.Visible = true;
-    window.ProgressBar1.Value = 33;
+    window.ProgressBar1.Max = 1000;
+    window.ProgressBar1.Value = 709;
     EXPECT_EQ(after(window.ProgressBar1), RunProgress{}) << "none has begun";
     for (const bool shown : {false, true}) {
         window.ProgressBar1.Visible = shown;
-        const int percent = shown ? 33 : 0;
+        const int percent = shown ? 71 : 0;
         window.cmdExit.Enabled = false;
         EXPECT_EQ(after(window.cmdExit), (RunProgress{State::UnderWay, percent}));
         window.cmdExit.Enabled = true;

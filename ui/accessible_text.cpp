@@ -10,7 +10,7 @@ std::string NameOf(const std::string& text, const std::string& description) {
 
 class Reader : public ControlVisitor {
   public:
-    void Visit(const Form& form) override { Text.name = form.Caption; }
+    void Visit(const Form&) override {}
     void Visit(const Page&) override {}
     void Visit(const Frame& frame) override { Text.name = frame.Caption; }
     void Visit(const Label& label) override {

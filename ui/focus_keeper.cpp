@@ -18,25 +18,23 @@ FocusKeeper::FocusKeeper(const std::vector<const Control*>& controls, Drawing& d
 void FocusKeeper::BeforeChange() {
     const Button* focused = drawing_.Focused();
     if (focused == nullptr || focused->CanBePressed()) return;
-    last_ = focused;
     drawing_.Focus(nullptr);
 }
 
 void FocusKeeper::AfterChange() {
-    if (pressing_ == 0) Settle();
+    if (pressed_ == nullptr) Settle();
 }
 
 void FocusKeeper::Press(const Button& button) {
-    if (pressing_++ == 0) {
-        beforePress_ = Pressable();
-        pressed_ = &button;
+    if (pressed_ != nullptr) {
+        button.Press();
+        return;
     }
+    beforePress_ = Pressable();
+    pressed_ = &button;
     button.Press();
-    if (--pressing_ == 0) {
-        Settle();
-        beforePress_.clear();
-        pressed_ = nullptr;
-    }
+    Settle();
+    pressed_ = nullptr;
 }
 
 std::vector<const Button*> FocusKeeper::Pressable() const {
@@ -48,23 +46,17 @@ std::vector<const Button*> FocusKeeper::Pressable() const {
 
 FocusKeeper::Rank FocusKeeper::RankOf(const Button& button) const {
     if (button.Container == nullptr) return Rank::BesideThePages;
-    if (pressed_ == nullptr) return Rank::OnThePage;
     if (&button == pressed_) return Rank::PressedAgain;
     const auto before = std::find(beforePress_.begin(), beforePress_.end(), &button);
     return before == beforePress_.end() ? Rank::PressableOnlySince : Rank::OnThePage;
 }
 
 const Button* FocusKeeper::Best() const {
-    const auto last = std::find(buttons_.begin(), buttons_.end(), last_);
-    const auto start =
-        last == buttons_.end() ? 0 : static_cast<std::size_t>(last - buttons_.begin()) + 1;
-    const Button* best = nullptr;
-    for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        const Button* button = buttons_[(start + i) % buttons_.size()];
-        if (!button->CanBePressed()) continue;
-        if (best == nullptr || RankOf(*button) < RankOf(*best)) best = button;
-    }
-    return best;
+    const auto pressable = Pressable();
+    const auto best = std::min_element(
+        pressable.begin(), pressable.end(),
+        [this](const Button* one, const Button* other) { return RankOf(*one) < RankOf(*other); });
+    return best == pressable.end() ? nullptr : *best;
 }
 
 // A focus that the technician has put somewhere stays there.

@@ -20,7 +20,7 @@ class FocusKeeper {
     // longer be pressed, before the toolkit passes it on by itself.
     void BeforeChange();
 
-    // The drawing has followed. Gives the focus to a button that can be pressed: the next one in
+    // The drawing has followed. Gives the focus to a button that can be pressed: the first one in
     // tab order on the shown page, or else one beside the pages until the page has one again.
     void AfterChange();
 
@@ -39,11 +39,9 @@ class FocusKeeper {
 
     Drawing& drawing_;
     std::vector<const Button*> buttons_;      // in tab order
-    std::vector<const Button*> beforePress_;  // those that could be pressed then
-    const Button* pressed_ = nullptr;         // the outermost press at work, or just done
-    const Button* last_ = nullptr;            // the last that lost the focus
+    std::vector<const Button*> beforePress_;  // those that could be pressed before the last press
+    const Button* pressed_ = nullptr;         // by the outermost press at work
     const Button* provisional_ = nullptr;     // has the focus only until the page has a button
-    int pressing_ = 0;
 };
 
 }  // namespace keplin

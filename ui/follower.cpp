@@ -17,8 +17,6 @@ Follower::Follower(ISPMain& model, Drawing& drawing, PressGuard::Clock clock)
 void Follower::Start() {
     for (const Aspect aspect : {Aspect::Caption, Aspect::Height})
         Draw(model_, aspect);
-    focus_.AfterChange();
-    guard_.AfterChange();
     observation_.emplace(model_, *this);
 }
 

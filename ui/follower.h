@@ -32,8 +32,8 @@ class Follower : public Observer {
 
     [[nodiscard]] const std::vector<const Button*>& TabOrder() const { return focus_.TabOrder(); }
 
-    // Every control is made: gives the window its title, its size and its focus, and follows the
-    // model from here on.
+    // Every control is made, and the window still hidden: gives it its title and its size, and
+    // follows the model from here on.
     void Start();
 
     void Changed(const Control& control, const PropertyBase& property) override;

@@ -1,6 +1,5 @@
 #include "ui/property.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "ui/control.h"
@@ -44,19 +43,8 @@ std::string Written(bool value) {
     return value ? "True" : "False";
 }
 
-// std::to_chars would do it too, with tables of 170 KB.
 std::string Written(float value) {
-    constexpr std::size_t kMostDecimals = 9;
-    double scale = 1;
-    std::size_t decimals = 0;
-    for (; decimals < kMostDecimals; ++decimals, scale *= 10)
-        if (static_cast<float>(std::round(value * scale) / scale) == value) break;
-    std::string text = std::to_string(std::llround(std::abs(value) * scale));
-    if (decimals > 0) {
-        text.insert(0, decimals + 1 - std::min(decimals + 1, text.size()), '0');
-        text.insert(text.size() - decimals, 1, '.');
-    }
-    return value < 0 ? '-' + text : text;
+    return std::to_string(std::lround(value));
 }
 
 std::string PropertyBase::Line() const {

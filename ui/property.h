@@ -35,8 +35,8 @@ class Observer {
     virtual void Changed(const Control& control, const PropertyBase& property) = 0;
 };
 
-// What a property is, as a trace writes it: "a text" in quotes, True or False, and a number as the
-// shortest text that gives it back, a whole one without a point.
+// What a property is, as a trace writes it: "a text" in quotes, True or False, and a number, which
+// in this window is a whole one.
 std::string Written(const std::string& text);
 std::string Written(bool value);
 std::string Written(float value);

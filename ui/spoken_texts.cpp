@@ -22,9 +22,7 @@ void Append(std::string& message, std::string_view text) {
 }  // namespace
 
 bool SpokenTexts::Changed(const Control& control, Aspect aspect) {
-    if (aspect == Aspect::Caption || aspect == Aspect::Text || aspect == Aspect::Visible) {
-        Add(control);
-    }
+    Add(control);
     if (aspect == Aspect::Visible) {
         // Labels that come with their page; what a frame holds is read when the focus enters it.
         for (const Control* other : model_.Controls()) {

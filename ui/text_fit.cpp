@@ -83,9 +83,8 @@ TextRoom TextFit::RoomOf(const Label& label) const {
     const auto self = std::find(controls_.begin(), controls_.end(), &label);
     for (auto it = self; it != controls_.end(); ++it) {
         if (!Covers(**it, label)) continue;
-        const PixelRect other = scale_.PlaceOf(**it);
-        if (other.Intersects(place))
-            room.covered.push_back(Exactly(other.Moved(-place.left, -place.top)));
+        const PixelRect other = scale_.PlaceOf(**it).Moved(-place.left, -place.top);
+        room.covered.push_back(Exactly(other));
     }
     return room;
 }

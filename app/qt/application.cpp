@@ -48,7 +48,6 @@ class FrameOfTheDesktop {
 }  // namespace
 
 std::unique_ptr<QApplication> OpenDisplay(int& argc, char** argv, const char* program) {
-    QCoreApplication::setApplicationName(program);
     QGuiApplication::setDesktopFileName(program);
     qInstallMessageHandler(HoldBackOrEnd);
     const FrameOfTheDesktop frame;
