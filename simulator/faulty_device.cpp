@@ -110,6 +110,9 @@ void FaultyDevice::LineIdle(std::vector<SentByte>& answer) {
 void FaultyDevice::LineClosed() {
     frame_.Reset();
     previous_.reset();
+    held_.clear();
+    underWay_.reset();
+    babbleLeft_ = 0;
     if (comesBack_) hungUp_ = false;
 }
 
