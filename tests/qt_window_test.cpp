@@ -48,7 +48,6 @@ TEST_F(QtWindow, FollowsTheModel) {
     EXPECT_EQ(Find<QPushButton>(model.Command1)->text(), "Fish && Chips");
     EXPECT_TRUE(Find(model.lblPrg[0])->font().bold());
     EXPECT_FALSE(Find(model.lblPrg[1])->font().bold());
-    EXPECT_TRUE(Find(model.Label7)->font().bold());
     EXPECT_EQ(Find(model.Frame2)->accessibleName(), "Update Complete");
     EXPECT_FALSE(Find(model.PicSetup)->isVisible() || Find(model.Shape2)->isVisible());
     Show(model.PicSetup);
