@@ -91,11 +91,15 @@ TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
             if (!frame) continue;
             const QImage image = Find(*control)->grab().toImage();
             const QPoint end = image.rect().bottomRight();
-            for (const QPoint on :
-                 {QPoint(0, end.y() / 2), {end.x(), end.y() / 2}, {end.x() / 2, end.y()}})
+            const QPoint gap =
+                QPoint(window.width() * 7 / 622, Find(*control)->fontMetrics().height() / 2) *
+                window.devicePixelRatioF();
+            EXPECT_EQ(image.pixelColor(gap), QColor(192, 192, 255));
+            for (const QPoint on : {QPoint(0, end.y() / 2),
+                                    {end.x(), end.y() / 2},
+                                    {end.x() / 2, end.y()},
+                                    {end.x() - 9, gap.y()}})
                 EXPECT_EQ(image.pixelColor(on), QColor(120, 120, 159)) << control->Name;
-            const QPoint gap(window.width() * 7 / 622, Find(*control)->fontMetrics().height() / 2);
-            EXPECT_EQ(image.pixelColor(gap * window.devicePixelRatioF()), QColor(192, 192, 255));
         }
     }
     EXPECT_TRUE(IsPainted(model.Label10, Qt::red));

@@ -20,7 +20,11 @@ TEST_F(QtWindow, EveryControlStandsInItsPlace) {
     EXPECT_EQ(window.minimumSize(), window.maximumSize());
     EXPECT_EQ(window.windowTitle(), "  Keplin For QDX-470");
     EXPECT_EQ(window.windowFlags() & Qt::WindowMinMaxButtonsHint, Qt::WindowMinimizeButtonHint);
-    EXPECT_EQ(window.windowIcon().actualSize({48, 48}), QSize(48, 48));
+    for (const int size : {8, 16, 24}) {  // of a pixel ratio of two
+        const QImage icon = window.windowIcon().pixmap(size).toImage();
+        EXPECT_EQ(icon.pixelColor(icon.width() / 2, icon.width() / 8), QColor(255, 208, 48))
+            << "no arrow";
+    }
     EXPECT_LE((window.geometry().center() - window.screen()->geometry().center()).manhattanLength(),
               60);
     EXPECT_EQ(Find(model.StatusBar1)->geometry(), QRect(0, 309, 622, 17));
