@@ -12,13 +12,11 @@
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
-#include <QThread>
 #include <QTimer>
 #include <QTreeView>
+#include <algorithm>
 #include <array>
 #include <chrono>
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -49,12 +47,16 @@ TEST_F(DesktopServices, AYieldWaitsForTheLineWhenItIsToldTo) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe(ends.data()), 0);
     line.OnLineChange(ends[0]);
+    std::chrono::nanoseconds shortest{};
     const auto fiftyYields = [&](bool wait) {
         const auto start = desktop.Now();
+        shortest = 1s;
         for (int i = 0; i < 50; ++i) {
+            const auto before = desktop.Now();
             line.MayWait = wait;
             desktop.YieldOnce();
             EXPECT_FALSE(line.MayWait);
+            shortest = std::min<std::chrono::nanoseconds>(shortest, desktop.Now() - before);
         }
         return desktop.Now() - start;
     };
@@ -63,7 +65,8 @@ TEST_F(DesktopServices, AYieldWaitsForTheLineWhenItIsToldTo) {
     EXPECT_LT(silent, std::chrono::seconds(3));
     EXPECT_LT(fiftyYields(false), silent);
     ASSERT_EQ(write(ends[1], "x", 1), 1);
-    EXPECT_LT(fiftyYields(true), silent);
+    fiftyYields(true);
+    EXPECT_LT(shortest, 1ms) << "the byte ends no wait";
     line.OnLineChange(-1);
     for (const int end : ends)
         close(end);
@@ -101,19 +104,6 @@ TEST_F(DesktopServices, ToStayAwakeIsAskedForWithoutWaitingForTheAnswer) {
     }));
     desktop.KeepAwake(false);
     EXPECT_LT(desktop.Now() - start, 15s);
-}
-
-TEST_F(DesktopServices, TheThreadsThatDrawAreThereBeforeTheyAreNeeded) {
-    const auto drawing = [] {
-        int threads = 0;
-        for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task")) {
-            std::string name;
-            std::getline(std::ifstream(thread.path() / "comm"), name);
-            threads += name == "Thread (pooled)" ? 1 : 0;
-        }
-        return threads;
-    };
-    EXPECT_TRUE(Until([&] { return drawing() == std::min(QThread::idealThreadCount(), 8); }));
 }
 
 // The open-file dialog, in a folder of its own.
@@ -193,8 +183,8 @@ TEST_F(QtDialog, ShowsTheNewestFileFirstInCapitalsOrNot) {
         EXPECT_EQ(places.mid(0, 2), (QList{QUrl::fromLocalFile(home.filePath("Downloads")),
                                            QUrl::fromLocalFile(home.path())}));
         EXPECT_EQ(places.last(), QUrl("file:"));
-        for (const auto& [view, column] : std::initializer_list<std::pair<const char*, int>>{
-                 {"treeView", 0}, {"treeView", 3}, {"sidebar", 0}}) {
+        for (const auto& [view, column] :
+             std::initializer_list<std::pair<const char*, int>>{{"treeView", 3}, {"sidebar", 0}}) {
             auto* list = dialog.findChild<QAbstractItemView*>(view);
             EXPECT_LE(list->sizeHintForColumn(column),
                       list->visualRect(list->model()->index(0, column, list->rootIndex())).width())

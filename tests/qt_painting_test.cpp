@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QScreen>
 #include <algorithm>
@@ -21,6 +22,8 @@ TEST_F(QtWindow, EveryTextIsWholeAtEveryStage) {
     EXPECT_EQ(window.width(), std::min(full, screen.width() - 4));
     const int middle = PaintedInk(*Find<QLabel>(model.Label8)).center().x();
     EXPECT_NEAR(middle, Find(model.Label8)->width() / 2, 2);
+    const QColor bevel = window.palette().window().color().darker(160);
+    EXPECT_TRUE(IsPainted(model.StatusBar1.Panels(2), bevel, 1));
     const std::vector<std::string> none;
     model.StatusBar1.Panels(2).Text = " Number of Lines: 10001  ";
     model.StatusBar2.Panels(1).Text = " File Size: 5240524     Hex: 4FF68C";
@@ -29,6 +32,8 @@ TEST_F(QtWindow, EveryTextIsWholeAtEveryStage) {
     EXPECT_EQ(TextsThatDoNotFit(window), none);
     Show(model.PicSetup);
     const double size = Find(model.Label4)->font().pointSizeF();
+    EXPECT_EQ(Find(model.cmdPortTest)->font().pointSizeF(), size);
+    EXPECT_TRUE(QFontDatabase::hasFamily(window.font().family()));
     for (const char* text :
          {"Port 4 Active.  Ping Test Started", "Query to Port 4   Port Not Active",
           " Port 4 Ready.  Click NEXT to continue.", " Communications Fail on All Ports"}) {
@@ -86,8 +91,14 @@ TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
             if (!frame) continue;
             const QImage image = Find(*control)->grab().toImage();
             const QPoint end = image.rect().bottomRight();
-            for (const QPoint on :
-                 {QPoint(0, end.y() / 2), {end.x(), end.y() / 2}, {end.x() / 2, end.y()}})
+            const QPoint gap =
+                QPoint(window.width() * 7 / 622, Find(*control)->fontMetrics().height() / 2) *
+                window.devicePixelRatioF();
+            EXPECT_EQ(image.pixelColor(gap), QColor(192, 192, 255));
+            for (const QPoint on : {QPoint(0, end.y() / 2),
+                                    {end.x(), end.y() / 2},
+                                    {end.x() / 2, end.y()},
+                                    {end.x() - 9, gap.y()}})
                 EXPECT_EQ(image.pixelColor(on), QColor(120, 120, 159)) << control->Name;
         }
     }
@@ -108,6 +119,7 @@ TEST_F(QtWindow, PaintsTheColoursOfTheDesignAlsoInADarkTheme) {
             shown->grab();
             const QImage image = shown->pixmap(Qt::ReturnByValue).toImage();
             EXPECT_EQ(image.size(), (QSizeF(shown->size()) * window.devicePixelRatioF()).toSize());
+            EXPECT_EQ(image.devicePixelRatio(), window.devicePixelRatioF());
             const QPointF place(spot.x() * image.width(), spot.y() * image.height());
             EXPECT_EQ(image.pixelColor(place.toPoint()), colour) << picture->Name;
             EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "on a ground of its own";

@@ -20,7 +20,11 @@ TEST_F(QtWindow, EveryControlStandsInItsPlace) {
     EXPECT_EQ(window.minimumSize(), window.maximumSize());
     EXPECT_EQ(window.windowTitle(), "  Keplin For QDX-470");
     EXPECT_EQ(window.windowFlags() & Qt::WindowMinMaxButtonsHint, Qt::WindowMinimizeButtonHint);
-    EXPECT_EQ(window.windowIcon().actualSize({48, 48}), QSize(48, 48));
+    for (const int size : {8, 16, 24}) {  // of a pixel ratio of two
+        const QImage icon = window.windowIcon().pixmap(size).toImage();
+        EXPECT_EQ(icon.pixelColor(icon.width() / 2, icon.width() / 8), QColor(255, 208, 48))
+            << "no arrow";
+    }
     EXPECT_LE((window.geometry().center() - window.screen()->geometry().center()).manhattanLength(),
               60);
     EXPECT_EQ(Find(model.StatusBar1)->geometry(), QRect(0, 309, 622, 17));
@@ -49,9 +53,14 @@ TEST_F(QtWindow, FollowsTheModel) {
     EXPECT_TRUE(Find(model.lblPrg[0])->font().bold());
     EXPECT_FALSE(Find(model.lblPrg[1])->font().bold());
     EXPECT_EQ(Find(model.Frame2)->accessibleName(), "Update Complete");
-    EXPECT_FALSE(Find(model.PicSetup)->isVisible());
+    EXPECT_FALSE(Find(model.PicSetup)->isVisible() || Find(model.Shape2)->isVisible());
     Show(model.PicSetup);
     EXPECT_TRUE(Find(model.cmdPortTest)->isVisible());
+    desktop.YieldOnce();
+    bool repainted = false;
+    const WhenPainted painted(*Find(model.Frame1), [&] { repainted = true; });
+    model.Frame1.Caption = "Setup";
+    EXPECT_TRUE(Until([&] { return repainted; }));
     model.WindowState = Form::State::Minimised;
     EXPECT_TRUE(window.isMinimized());
 }
@@ -165,21 +174,26 @@ TEST_F(QtWindow, AScreenReaderIsToldOfEveryControl) {
     QHelpEvent hover(QEvent::ToolTip, {}, {});
     QCoreApplication::sendEvent(Find(model.ProgressBar1), &hover);
     EXPECT_EQ(QToolTip::text(), "33 %");
+    Find(model.ProgressBar1)->setAttribute(Qt::WA_UnderMouse);
+    model.ProgressBar1.Value = 34;
+    EXPECT_TRUE(Until([&] { return QToolTip::text() == "34 %"; }));
     auto* value = QAccessible::queryAccessibleInterface(Find(model.ProgressBar1));
-    EXPECT_EQ(value->valueInterface()->currentValue(), 33);
+    EXPECT_EQ(value->valueInterface()->currentValue(), 34);
     EXPECT_EQ(value->valueInterface()->maximumValue(), 100);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(Find(model.StatusBar1))->role(),
               QAccessible::StatusBar);
     model.ProgressBar1.Counts = ProgressBar::Unit::Lines;
     model.ProgressBar1.Max = 4000;
-    EXPECT_EQ(Read(model.ProgressBar1, QAccessible::Description), "line 34 of 4,000");
+    EXPECT_EQ(Read(model.ProgressBar1, QAccessible::Description), "line 35 of 4,000");
     model.lblResults.Caption = "Query to Port 1";
     model.StatusBar2.Panels(3).Text = "Checksum: A";
+    Find(model.cmdExit)->setAccessibleDescription("News");
     model.cmdExit.Caption = "Finish & Go";
     EXPECT_EQ(Read(model.lblResults), "Query to Port 1");
     EXPECT_EQ(Read(model.StatusBar2.Panels(3)), "Checksum: A");
     EXPECT_EQ(Read(model.StatusBar2.Panels(3), QAccessible::Description), "Checksum");
     EXPECT_EQ(Read(model.cmdExit), "Finish & Go");
+    EXPECT_EQ(Read(model.cmdExit, QAccessible::Description), "News");
 }
 
 }  // namespace

@@ -25,7 +25,6 @@ std::optional<PressKey> PressKeyOf(int key) {
 ButtonWidget::ButtonWidget(const Button& button, const Look& look, Follower& follower,
                            QWidget* parent)
     : QPushButton(parent), button_(button), look_(look), follower_(follower) {
-    setFocusPolicy(Qt::StrongFocus);
     SetUp(*this, button, look.scale);
     ApplyCaption();
     connect(this, &QPushButton::clicked, this, [this] { follower_.Press(button_); });

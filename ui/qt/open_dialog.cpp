@@ -38,7 +38,6 @@ QList<QUrl> Places() {
         for (const QFileInfo& mount : QDir(parent).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot))
             folders << mount.filePath();
     }
-    folders.removeDuplicates();
     QList<QUrl> places;
     for (const QString& folder : folders) {
         if (QFileInfo(folder).isDir()) places << QUrl::fromLocalFile(folder);

@@ -6,7 +6,6 @@ namespace keplin::qt {
 
 ShowTimer::ShowTimer(Throttle::Pause pause, std::function<void()> show)
     : throttle_(pause), show_(std::move(show)) {
-    later_.setSingleShot(true);
     later_.callOnTimeout([this] { ShowNow(); });
 }
 

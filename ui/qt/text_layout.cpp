@@ -13,8 +13,7 @@ namespace {
 
 // Lays the text out in a column `width` wide.
 void LayOut(QTextLayout& layout, Alignment alignment, double width) {
-    QTextOption option(alignment == Alignment::Centre ? Qt::AlignHCenter : Qt::AlignLeft);
-    option.setWrapMode(QTextOption::WordWrap);
+    const QTextOption option(alignment == Alignment::Centre ? Qt::AlignHCenter : Qt::AlignLeft);
     layout.setTextOption(option);
     layout.beginLayout();
     double top = 0;
