@@ -40,7 +40,7 @@ class PlainDrawing : public Drawing {
     std::map<std::string, std::string> described;  // by the button's name
     const Button* focused = nullptr;
     bool heard = true;
-    PressGuard::Moment now{};
+    PressGuard::Moment now{PressGuard::kPause};
     Follower follower;
 };
 
@@ -190,7 +190,7 @@ TEST_F(Followers, NewsBelongsToTheButtonWithTheFocus) {
     drawing.follower.Speak();
     EXPECT_EQ(std::exchange(drawing.asked, ""), Focused() + " says: Query to Port 2\n");
     drawing.Focus(&model.cmdExit);
-    EXPECT_EQ(drawing.described["cmdPortTest"], "");
+    EXPECT_EQ(drawing.described["Next_2"], "") << "which had the focus";
     EXPECT_EQ(drawing.described["cmdExit"], "Query to Port 2");
     drawing.follower.Speak();
     EXPECT_EQ(drawing.asked, "");

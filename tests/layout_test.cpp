@@ -168,6 +168,8 @@ TEST(AccessibleText, ATextThatIsThereIsTheName) {
     ISPMain window;
     window.lblResults.Caption = "Query to Port 1";
     EXPECT_EQ(AccessibleTextOf(window.lblResults).name, "Query to Port 1");
+    EXPECT_EQ(AccessibleTextOf(window.cmdExit).name, "Close");
+    EXPECT_EQ(AccessibleTextOf(window.Frame1).name, "Setup Procedure");
 }
 
 }  // namespace
