@@ -32,7 +32,7 @@ bool SpokenTexts::Changed(const Control& control, Aspect aspect) {
         }
     }
     if (&control == &window_.cmdExit && aspect == Aspect::Enabled) FollowRun();
-    return fresh_.runStopped || !fresh_.texts.empty();
+    return IsAnyNew();
 }
 
 // Close cannot be pressed during a run, nor during a port test, which disables Port Test before it.
@@ -46,7 +46,7 @@ void SpokenTexts::FollowRun() {
 }
 
 std::string SpokenTexts::Take() {
-    if (!fresh_.runStopped && fresh_.texts.empty()) return "";
+    if (!IsAnyNew()) return "";
     taken_ = std::exchange(fresh_, {});
     return Latest();
 }
