@@ -6,16 +6,12 @@
 
 namespace keplin::win32 {
 
-class MainWindow final : public Drawing {
+class MainWindow final : public Drawing, public SystemWindow {
   public:
     // Draws the model as it stands and follows it from here on; hidden until the model's window is
     // visible. The model must outlive it. `clock` tells since when a button can be pressed.
     explicit MainWindow(ISPMain& model, PressGuard::Clock clock = std::chrono::steady_clock::now);
-    ~MainWindow() override;
-    MainWindow(const MainWindow&) = delete;
-    MainWindow& operator=(const MainWindow&) = delete;
 
-    [[nodiscard]] HWND Handle() const { return handle_; }
     [[nodiscard]] HWND HandleOf(const Control& control) const {
         return drawn_.at(&control)->Handle();
     }
@@ -24,7 +20,7 @@ class MainWindow final : public Drawing {
     // Puts something into the window that is not in its model, above all that is.
     template <typename Kind>
     Drawn& Add(const Control& place) {
-        return *(drawn_[&place] = std::make_unique<Kind>(place, look_, handle_));
+        return *(drawn_[&place] = std::make_unique<Kind>(place, look_, Handle()));
     }
 
     // Brings to the screen what is not painted yet.
@@ -39,13 +35,12 @@ class MainWindow final : public Drawing {
     void Focus(const Button* button) override;
     void CallForAttention() override;
     [[nodiscard]] bool IsHeard() const override;
-    void SpeakSoon() override { PostMessageW(handle_, kSpeak, 0, 0); }
+    void SpeakSoon() override { PostMessageW(Handle(), kSpeak, 0, 0); }
     void Describe(const Button& button, const std::string& news) override;
     void Announce(const Button& button, const std::string& news) override;
 
   private:
-    static LRESULT CALLBACK Receive(HWND handle, UINT message, WPARAM first, LPARAM second);
-    LRESULT OnMessage(UINT message, WPARAM first, LPARAM second);
+    LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
     LRESULT LeaveToSystem(UINT message, WPARAM first, LPARAM second);
     void MoveFocus(bool backwards);
     void ShowInTaskbar();
@@ -61,12 +56,11 @@ class MainWindow final : public Drawing {
     ISPMain& model_;
     Follower follower_;
     Look look_;
-    HWND handle_ = nullptr;
     DrawnControls drawn_;
     const Button* focused_ = nullptr;
     RunProgress inTaskbar_;
-    UINT screenDots_ = 0;  // per inch
-    int inSystem_ = 0;     // the system's own loops that are at work
+    UINT screenDots_;   // per inch
+    int inSystem_ = 0;  // the system's own loops that are at work
 };
 
 }  // namespace keplin::win32
