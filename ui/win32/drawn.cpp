@@ -1,12 +1,8 @@
 #include "ui/win32/drawn.h"
 
 #include <commctrl.h>
-#include <initguid.h>
-// In this order.
-#include <oleacc.h>
 #include <uxtheme.h>
 
-#include "ui/win32/object.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
@@ -107,14 +103,6 @@ void Painted::PaintAll() {
     Paint(buffer ? memory : screen, inside);
     EndBufferedPaint(buffer, TRUE);
     EndPaint(Handle(), &paint);
-}
-
-void Annotate(HWND control, const GUID& property, const std::string& text) {
-    static const auto properties =
-        ObjectOf<IAccPropServices>(CLSID_AccPropServices, IID_IAccPropServices);
-    const auto object = static_cast<DWORD>(OBJID_CLIENT);
-    if (!properties) return;
-    properties->SetHwndPropStr(control, object, CHILDID_SELF, property, ToWide(text).c_str());
 }
 
 }  // namespace keplin::win32

@@ -33,11 +33,6 @@ struct Look {
     std::unique_ptr<const Measures> measures;
 };
 
-// What the window and its controls send each other beyond the system's own messages.
-inline constexpr UINT kPress = WM_APP;           // to a button: what a press does is due
-inline constexpr UINT kCloseAsked = WM_APP + 1;  // to the window: it is to close
-inline constexpr UINT kSpeak = WM_APP + 2;       // to the window: there is news to speak
-
 class Drawn : public SystemWindow {
   public:
     // Made of the system's control of that class, above those that stand in the container already.

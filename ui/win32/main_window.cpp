@@ -38,7 +38,7 @@ MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
       follower_(model, *this, std::move(clock)),
       look_{model, follower_, focused_, [this] { return inSystem_ == 0; }, nullptr},
       screenDots_(ScreenDots()) {
-    Measure();
+    Rescale();
     drawn_ = MakeControls(Handle(), look_);
     // The focus shows from the start, not only after the first use of the keyboard.
     SendMessageW(Handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
@@ -52,10 +52,6 @@ void MainWindow::PaintNow() const {
 
 LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     switch (message) {
-        case WM_COMMAND:
-            if (HIWORD(first) == BN_CLICKED && second != 0)
-                PostMessageW(reinterpret_cast<HWND>(second), kPress, 0, 0);
-            return 0;
         case WM_CLOSE:  // sent from within the system's own loop
             PostMessageW(Handle(), kCloseAsked, 0, 0);
             return 0;
@@ -142,14 +138,10 @@ void MainWindow::MoveFocus(bool backwards) {
     if (found != order.end()) Focus(*found);
 }
 
-void MainWindow::Measure() {
-    look_.measures = std::make_unique<const Measures>(model_, DotsPerInch());
-}
-
 // The fonts before it live on until every control has a new one.
 void MainWindow::Rescale() {
-    const auto before = std::exchange(look_.measures, nullptr);
-    Measure();
+    const auto before =
+        std::exchange(look_.measures, std::make_unique<const Measures>(model_, DotsPerInch()));
     for (const auto& [control, drawn] : drawn_)
         drawn->Rescale();
     ApplySize();

@@ -6,6 +6,10 @@
 
 namespace keplin::win32 {
 
+// What the window sends itself beside kPress.
+inline constexpr UINT kCloseAsked = kPress + 1;  // it is to close
+inline constexpr UINT kSpeak = kPress + 2;       // there is news to speak
+
 class MainWindow final : public Drawing, public SystemWindow {
   public:
     // Draws the model as it stands and follows it from here on; hidden until the model's window is
@@ -47,7 +51,6 @@ class MainWindow final : public Drawing, public SystemWindow {
 
     [[nodiscard]] UINT ScreenDots() const;
     [[nodiscard]] double DotsPerInch() const;
-    void Measure();
     void Rescale();
     void ApplyToWindow(Aspect aspect);
     void ApplySize() const;

@@ -20,13 +20,11 @@ class Container : public DrawnAs<Kind, Painted> {
         Fill(context, inside, ToRef(this->model_.Background));
     }
 
-    // Passes a press on to the window, and gives the corners of a button the background.
+    // Gives the corners of a button the background.
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override {
-        if (message == WM_COMMAND)
-            return SendMessageW(GetParent(this->Handle()), message, first, second);
         if (message != WM_CTLCOLORBTN) return Painted::OnMessage(message, first, second);
-        SetDCBrushColor(reinterpret_cast<HDC>(first), ToRef(this->model_.Background));
-        return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+        const HDC context = reinterpret_cast<HDC>(first);
+        return reinterpret_cast<LRESULT>(Brush(context, ToRef(this->model_.Background)));
     }
 };
 

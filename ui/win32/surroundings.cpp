@@ -1,4 +1,6 @@
 // What the window has to do with what is around it: the screen, the taskbar and a screen reader.
+#include <initguid.h>
+// In this order.
 #include <oleacc.h>
 #include <shobjidl.h>
 
@@ -122,6 +124,14 @@ bool MainWindow::IsHeard() const {
     BOOL reader = FALSE;
     SystemParametersInfoW(SPI_GETSCREENREADER, 0, &reader, 0);
     return reader || (listening && listening());
+}
+
+void Annotate(HWND control, const GUID& property, const std::string& text) {
+    static const auto properties =
+        ObjectOf<IAccPropServices>(CLSID_AccPropServices, IID_IAccPropServices);
+    const auto object = static_cast<DWORD>(OBJID_CLIENT);
+    if (!properties) return;
+    properties->SetHwndPropStr(control, object, CHILDID_SELF, property, ToWide(text).c_str());
 }
 
 void MainWindow::Describe(const Button& button, const std::string& news) {

@@ -15,8 +15,7 @@
 
 namespace keplin::win32 {
 
-// Takes no press that was not meant for it. A press becomes a message of its own: whoever made it,
-// a screen reader for instance, need not wait for what it does.
+// Takes no press that was not meant for it.
 class ButtonControl final : public DrawnAs<Button> {
   public:
     ButtonControl(const Button& button, const Look& look, HWND container)
@@ -138,9 +137,9 @@ class StatusBarControl final : public DrawnAs<StatusBar> {
         const PixelRect place = PlaceNow();
         const auto panels =
             ArrangePanels(model_, {place.width, place.height}, Now().scale, kBevel, width);
-        std::vector<int> ends(panels.size());
-        std::transform(panels.begin(), panels.end(), ends.begin(),
-                       [](const PanelView& panel) { return panel.place.Right(); });
+        std::vector<int> ends;
+        for (const PanelView& panel : panels)
+            ends.push_back(panel.place.Right());
         SendMessageW(Handle(), SB_SETPARTS, ends.size(), reinterpret_cast<LPARAM>(ends.data()));
         for (std::size_t i = 0; i < panels.size(); ++i) {
             const bool centred = model_.Panels(i + 1).TextAlignment == Alignment::Centre;
