@@ -138,6 +138,7 @@ class StatusBarControl final : public DrawnAs<StatusBar> {
         const auto panels =
             ArrangePanels(model_, {place.width, place.height}, Now().scale, kBevel, width);
         std::vector<int> ends;
+        ends.reserve(panels.size());
         for (const PanelView& panel : panels)
             ends.push_back(panel.place.Right());
         SendMessageW(Handle(), SB_SETPARTS, ends.size(), reinterpret_cast<LPARAM>(ends.data()));
