@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
-#include "device/pass_over.h"
 #include "device/reply_verdict.h"
+#include "platform/pass_over.h"
 
 namespace keplin {
 namespace {
@@ -37,7 +37,9 @@ class ReplyLine {
     void Take(std::int32_t byte) {
         const auto sinceLook = desktop_.Now() - lastLook_;
         lastLook_ += sinceLook;
-        silence_ += std::min<std::chrono::milliseconds>(sinceLook, kLongestYield);
+        const auto listened = std::min<std::chrono::milliseconds>(sinceLook, kLongestYield);
+        silence_ += listened;
+        listened_ += listened;
         if (byte == kNoByte) return;
         text_.push_back(static_cast<char>(byte));
         silence_ = 0ms;
@@ -48,7 +50,8 @@ class ReplyLine {
     [[nodiscard]] const std::string& Text() const { return text_; }
     [[nodiscard]] bool GivenUp() const {
         if (done_) return false;
-        return text_.size() >= lengthLimit_ || silence_ >= kReplySilenceLimit;
+        return text_.size() >= lengthLimit_ || silence_ >= kReplySilenceLimit ||
+               listened_ >= kReplyTimeLimit;
     }
 
   private:
@@ -56,7 +59,8 @@ class ReplyLine {
     Desktop& desktop_;
     std::string text_;
     std::chrono::milliseconds lastLook_;
-    std::chrono::milliseconds silence_{0};  // listened to since the last byte
+    std::chrono::milliseconds listened_{0};
+    std::chrono::milliseconds silence_{0};  // of that, since the last byte
     bool done_ = false;
 };
 

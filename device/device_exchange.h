@@ -15,6 +15,10 @@ namespace keplin {
 // line that pauses for longer than this will not end.
 inline constexpr std::chrono::seconds kReplySilenceLimit{30};
 
+// Nor will one that has not ended by then, however often a byte comes: a cable that hangs loose can
+// bring one now and then for ever.
+inline constexpr std::chrono::seconds kReplyTimeLimit{120};
+
 // A reply is the record's echo and a few characters. A line that grows this much longer than its
 // record is not a reply, and the device that sends it need not ever stop.
 inline constexpr std::size_t kReplyExcessLimit = 4096;

@@ -59,7 +59,7 @@ class LinePort : public SerialPort, public Watched {
         if (lost_) Reopen(paths_.FindAgain());
     }
 
-    [[nodiscard]] bool TakeIdle() override { return std::exchange(idle_, false) && IsOpen(); }
+    [[nodiscard]] bool TakeWait() override { return std::exchange(mayWait_, false) && IsOpen(); }
 
   protected:
     // Whether the line of that name could be opened; none has the empty name.
@@ -74,13 +74,12 @@ class LinePort : public SerialPort, public Watched {
         lost_ = true;
     }
 
-    // Before each write; the yield after it may wait for the answer.
-    void BeginWrite() {
+    // Throws PortError when there is nothing to write to.
+    void RequireOpen() const {
         if (!IsOpen()) throw PortError(lost_ ? "the line is lost" : "the port is not open");
-        idle_ = true;
     }
 
-    bool idle_ = true;  // see WatchedLine::TakeIdle
+    bool mayWait_ = true;  // see WatchedLine::TakeWait
 
   private:
     // The loader knows no other speed.
@@ -89,7 +88,7 @@ class LinePort : public SerialPort, public Watched {
     bool Reopen(const std::string& path) {
         if (path.empty() || !OpenLine(path)) return false;
         lost_ = false;
-        idle_ = true;
+        mayWait_ = true;
         return true;
     }
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "device/int16.h"
-#include "device/pass_over.h"
+#include "platform/int16.h"
+#include "platform/pass_over.h"
 
 namespace keplin {
 namespace {

@@ -8,12 +8,12 @@ class WatchedLine {
   public:
     virtual ~WatchedLine() = default;
 
-    // Whether this yield may wait for the next byte: the last read found nothing, or nothing was
-    // read since the last opening or discard; where a byte ends the wait, or since the last write.
-    // Says so once for each read that finds nothing.
-    [[nodiscard]] virtual bool TakeIdle() = 0;
+    // Whether this yield may wait for a byte. True once after each step that leaves none to read:
+    // an opening, a discard, a read that found none; on a line whose byte ends the wait, a write
+    // too.
+    [[nodiscard]] virtual bool TakeWait() = 0;
 
-    // Notices a line that hung up while nobody uses it, and lets go of it.
+    // Notices a line that hung up also while nobody reads it, and lets go of it.
     virtual void CheckLine() noexcept = 0;
 };
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "device/pass_over.h"
+#include "platform/pass_over.h"
 #include "ui/activity.h"
 
 namespace keplin {
@@ -85,6 +85,7 @@ void Session::cmdPortTest_Click() {
         std::int16_t port = kNoPort;
         PassOver([&] { port = search_.FindDevicePort(); });
         PassOver([&] { ShowFoundPort(port); });
+        window_.Command1.Enabled = true;
         window_.cmdPortTest.Enabled = true;
         window_.cmdExit.Enabled = true;
     });
@@ -103,6 +104,7 @@ void Session::ShowFoundPort(std::int16_t port) {
 void Session::Next_2_Click() {
     window_.PicSetup.Visible = false;
     if (!file_.LoadUpdateFile()) return;
+    window_.Command1.Enabled = !lineInUse_;  // a second port test may be under way still
     window_.PicProgram.Left = kShownPageLeft;
     window_.PicProgram.Top = kShownPageTop;
     window_.ProgressBar1.Visible = false;

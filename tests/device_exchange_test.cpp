@@ -53,7 +53,7 @@ TEST_F(DeviceExchanges, ReplyEndsAtTheFirstLineFeedWhateverPausesItHas) {
     EXPECT_FALSE(controller.SendDataLine(":00"));
 }
 
-TEST_F(DeviceExchanges, SilenceEndsTheExchangeAfterThirtySecondsFromTheLastByte) {
+TEST_F(DeviceExchanges, ALineThatBringsNoEndIsGivenUp) {
     port.ExpectDiscardStep().Fail("WriteText :00");
     desktop.OnYield = [&] { port.Expect("ReadByte", -1); };
     const auto start = desktop.Now();
@@ -71,6 +71,17 @@ TEST_F(DeviceExchanges, SilenceEndsTheExchangeAfterThirtySecondsFromTheLastByte)
     EXPECT_FALSE(controller.SendDataLine(":00"));
     EXPECT_GE(desktop.Now() - second, 59s);
     EXPECT_LT(desktop.Now() - second, 60s);
+
+    port.ExpectDiscardStep().Expect("WriteText :00");
+    const auto third = desktop.Now();
+    std::chrono::seconds next = 20s;
+    desktop.OnYield = [&] {
+        const bool due = desktop.Now() - third >= next;
+        if (due) next += 20s;
+        port.Expect("ReadByte", due ? 0 : -1);
+    };
+    EXPECT_FALSE(controller.SendDataLine(":00"));
+    EXPECT_EQ(desktop.Now() - third, 120s) << "however often a byte comes";
 }
 
 TEST_F(DeviceExchanges, AYieldThatTheTechnicianHoldsUpIsNoSilence) {

@@ -43,9 +43,9 @@ TEST_F(DesktopServices, AYieldWaitsForTheLineWhenItIsToldTo) {
     const auto fiftyYields = [&](bool wait) {
         const auto start = desktop.Now();
         for (int i = 0; i < 50; ++i) {
-            line.Idle = wait;
+            line.MayWait = wait;
             desktop.YieldOnce();
-            EXPECT_FALSE(line.Idle);
+            EXPECT_FALSE(line.MayWait);
         }
         return desktop.Now() - start;
     };

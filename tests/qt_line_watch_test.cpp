@@ -19,7 +19,7 @@ TEST_F(LineWatch, AByteThatNobodyReadsKeepsNoLoopInsideAWaitBusy) {
     const UniqueFd opened = OpenLine(far.Path());
     far.Send("U\n");
     line.OnLineChange(opened.Get());
-    line.Idle = true;
+    line.MayWait = true;
     int rounds = 0;
     QTimer::singleShot(0, &window, [&] {
         QEventLoop dialog;

@@ -46,7 +46,7 @@ class SerialAdapter : public ::testing::Test {
         fs::create_symlink(line.Path(), device_);
     }
 
-    bool ByteComes() { return port_.TakeIdle() && IsReadable(line_); }
+    bool ByteComes() { return port_.TakeWait() && IsReadable(line_); }
 
     std::string Read(std::size_t count) {
         std::string bytes;
@@ -93,13 +93,13 @@ TEST_F(SerialAdapter, DropsWhatCameBeforeOpeningAndBeforeADiscard) {
     far_->Send("stale");
     ASSERT_TRUE(ByteComes());
     EXPECT_EQ(port_.ReadByte(), 's');
-    EXPECT_FALSE(port_.TakeIdle()) << "more bytes may be waiting";
+    EXPECT_FALSE(port_.TakeWait()) << "more bytes may be waiting";
     port_.Setting47(-1);
     port_.DiscardInput();
-    EXPECT_TRUE(port_.TakeIdle());
-    EXPECT_FALSE(port_.TakeIdle()) << "one wait for each read";
+    EXPECT_TRUE(port_.TakeWait());
+    EXPECT_FALSE(port_.TakeWait()) << "one wait for each read";
     EXPECT_EQ(port_.ReadByte(), -1);
-    EXPECT_TRUE(port_.TakeIdle());
+    EXPECT_TRUE(port_.TakeWait());
 }
 
 TEST_F(SerialAdapter, KeepsASecondProgramOutUntilClosed) {
@@ -110,7 +110,7 @@ TEST_F(SerialAdapter, KeepsASecondProgramOutUntilClosed) {
 
     port_.DiscardInput();
     EXPECT_EQ(port_.ReadByte(), -1);
-    EXPECT_FALSE(port_.TakeIdle());
+    EXPECT_FALSE(port_.TakeWait());
     EXPECT_FALSE(port_.LineLost());
     EXPECT_THROW(port_.WriteByte(kPing), PortError);
 }
@@ -123,7 +123,7 @@ TEST_F(SerialAdapter, OpensNothingButASerialLine) {
     }
     EXPECT_EQ(OpenPort(port_, 3), 0) << "no such port";
     EXPECT_EQ(OpenPort(port_, 2, 38401), 0) << "no such speed";
-    EXPECT_FALSE(port_.TakeIdle());
+    EXPECT_FALSE(port_.TakeWait());
 }
 
 TEST_F(SerialAdapter, AStuckLineEndsTheWriteAndTheNextPingLeaves) {
@@ -165,7 +165,7 @@ TEST_F(SerialAdapter, NoticesAHangUpInEachStepOfAnExchangeAndAtRest) {
         step();
         EXPECT_TRUE(port_.LineLost());
         EXPECT_EQ(port_.ReadByte(), -1);
-        EXPECT_FALSE(port_.TakeIdle()) << "a dead line is always ready";
+        EXPECT_FALSE(port_.TakeWait()) << "a dead line is always ready";
         EXPECT_EQ(line_, -1);
         EXPECT_FALSE(IsOpen(line)) << "the adapter could not get its name back";
         EXPECT_THROW(port_.WriteText(":"), PortError);

@@ -85,6 +85,7 @@ TEST(SpokenTexts, APortTestThatEndsBehindTheProgrammingPageIsNoRun) {
     bool pressed = false;
     rig.desktop.OnYield = [&] {
         if (!std::exchange(pressed, true)) rig.window.Next_2.Press();
+        EXPECT_FALSE(rig.window.Command1.CanBePressed()) << "it would do nothing";
         rig.window.Command1.Press();
     };
     const std::string heard = ear.After(rig.window.cmdPortTest);

@@ -119,6 +119,8 @@ TEST_F(Win32Window, TheFocusGoesToAButtonThatCanBePressed) {
     model.Next_2.Enabled = true;
     SetActiveWindow(window.Handle());
     EXPECT_EQ(Focused(), "Next_2");
+    SetFocus(window.Handle());
+    EXPECT_EQ(Focused(), "Next_2") << "never with the window itself";
 }
 
 TEST_F(Win32Window, AskedToCloseItAsksTheModelUnlessThatCameTooSoon) {
@@ -131,6 +133,8 @@ TEST_F(Win32Window, AskedToCloseItAsksTheModelUnlessThatCameTooSoon) {
     EXPECT_EQ(SendMessageW(window.Handle(), WM_QUERYENDSESSION, 0, 0), TRUE);
     model.cmdExit.Enabled = false;
     EXPECT_EQ(SendMessageW(window.Handle(), WM_QUERYENDSESSION, 0, 0), FALSE);
+    model.cmdPortTest.Enabled = false;
+    EXPECT_EQ(SendMessageW(window.Handle(), WM_QUERYENDSESSION, 0, 0), TRUE) << "a port test";
     model.cmdExit.Enabled = true;
     SendMessageW(window.Handle(), WM_CLOSE, 0, 0);
     Settle();
@@ -162,6 +166,9 @@ TEST_F(Win32Window, WhileTheTitleBarIsHeldNothingOfTheProgramBegins) {
     Send(model.Next_1, BM_CLICK);
     Settle();
     EXPECT_EQ(presses, 1);
+    SetTimer(window.Handle(), 99, 100, EndTheMove);
+    SendMessageW(window.Handle(), WM_SYSCOMMAND, SC_KEYMENU, 0);
+    EXPECT_TRUE(KillTimer(window.Handle(), 99)) << "Alt alone holds nothing up";
 }
 
 // The pixels of a control that paints itself.
@@ -271,11 +278,11 @@ TEST_F(Win32DesktopServices, AYieldWaitsForTheLineWhenItIsToldTo) {
     const auto shortestYield = [&](bool wait) {
         auto shortest = std::chrono::steady_clock::duration::max();
         for (int i = 0; i < 30; ++i) {
-            line.Idle = wait;
+            line.MayWait = wait;
             const auto start = std::chrono::steady_clock::now();
             desktop.YieldOnce();
             shortest = std::min(shortest, std::chrono::steady_clock::now() - start);
-            EXPECT_FALSE(line.Idle);
+            EXPECT_FALSE(line.MayWait);
         }
         return shortest;
     };

@@ -24,14 +24,31 @@ TEST(Window, NothingElseCanBeStartedDuringAPortTest) {
 TEST(Window, TellsHowAnUpdateStands) {
     using State = RunProgress::State;
     ISPMain window;
-    EXPECT_EQ(RunProgressOf(window).state, State::None);
+    RunProgress progress;
+    const auto after = [&](const Control& changed) {
+        return progress = ProgressAfter(progress, changed, window);
+    };
     window.Visible = true;
     window.ProgressBar1.Value = 33;
-    EXPECT_EQ(RunProgressOf(window), (RunProgress{State::Stopped, 33}));
-    window.cmdExit.Enabled = false;
-    EXPECT_EQ(RunProgressOf(window), (RunProgress{State::UnderWay, 33}));
-    window.PicProgram.Visible = false;
-    EXPECT_EQ(RunProgressOf(window), RunProgress{});
+    EXPECT_EQ(after(window.ProgressBar1), RunProgress{}) << "none has begun";
+    for (const bool shown : {false, true}) {
+        window.ProgressBar1.Visible = shown;
+        const int percent = shown ? 33 : 0;
+        window.cmdExit.Enabled = false;
+        EXPECT_EQ(after(window.cmdExit), (RunProgress{State::UnderWay, percent}));
+        window.cmdExit.Enabled = true;
+        EXPECT_EQ(after(window.cmdExit), (RunProgress{State::Stopped, percent}));
+    }
+    const auto change = [&](Button& button, bool enabled) {
+        button.Enabled = enabled;
+        EXPECT_EQ(after(button).state, State::Stopped) << "a port test is no update";
+    };
+    for (const bool enabled : {false, true}) {
+        change(window.cmdPortTest, enabled);
+        change(window.cmdExit, enabled);
+    }
+    window.Command1.Visible = false;
+    EXPECT_EQ(after(window.Command1), RunProgress{});
 }
 
 TEST(Window, AFailedSearchSaysSoAndLeavesNextAsItWas) {

@@ -116,6 +116,11 @@ ISPMain::ISPMain()
     addPanel(StatusBar2, "StatusBar2.Panels(3)", "Checksum", 1440, Alignment::Centre, Share);
 }
 
+ISPMain::Job ISPMain::UnderWay() const {
+    if (cmdExit.Enabled) return Job::None;
+    return cmdPortTest.Enabled ? Job::Update : Job::PortTest;
+}
+
 bool ISPMain::UpdateComplete() const {
     return Visible && Frame2.Shown() && Frame2.Caption.Get() == kUpdateComplete;
 }
@@ -125,7 +130,8 @@ void Win95Shrivel(Form& xForm) {
 }
 
 bool EndsAWait(const ISPMain& window, const Control& control, Aspect aspect) {
-    return &control == &window.cmdExit && aspect == Aspect::Enabled && window.cmdExit.Enabled;
+    return &control == &window.cmdExit && aspect == Aspect::Enabled &&
+           window.UnderWay() == ISPMain::Job::None;
 }
 
 void ShowPage(Page& page) {

@@ -23,6 +23,11 @@ class ISPMain : public Form {
   public:
     ISPMain();
 
+    // What keeps the line busy; while it does, Close cannot be pressed. To be asked at a change of
+    // Close, or when nothing changes: Port Test can be pressed again a step before it.
+    enum class Job { None, PortTest, Update };
+    [[nodiscard]] Job UnderWay() const;
+
     // The technician sees the completion page: every line that was sent was acknowledged.
     [[nodiscard]] bool UpdateComplete() const;
 
@@ -75,8 +80,7 @@ class ISPMain : public Form {
 // Minimises the window.
 void Win95Shrivel(Form& xForm);
 
-// The change ended what the technician was waiting for, a port test or an update run: Close can be
-// pressed again.
+// The change ended the job that the technician was waiting for.
 bool EndsAWait(const ISPMain& window, const Control& control, Aspect aspect);
 
 // Moves a page to the place of the shown page and shows it.

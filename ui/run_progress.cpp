@@ -4,11 +4,15 @@
 
 namespace keplin {
 
-RunProgress RunProgressOf(const ISPMain& window) {
+RunProgress ProgressAfter(const RunProgress& before, const Control& changed,
+                          const ISPMain& window) {
     using enum RunProgress::State;
-    if (!window.Visible || !window.ProgressBar1.Shown()) return {};
-    const int percent = static_cast<int>(std::lround(100 * window.ProgressBar1.Done()));
-    return {window.cmdExit.Enabled ? Stopped : UnderWay, percent};
+    if (&changed == &window.cmdPortTest) return before;  // see UnderWay
+    const ProgressBar& bar = window.ProgressBar1;
+    if (window.UnderWay() == ISPMain::Job::Update)
+        return {UnderWay, bar.Shown() ? static_cast<int>(std::lround(100 * bar.Done())) : 0};
+    if (before.state == None || !window.Command1.Shown()) return {};
+    return {Stopped, before.percent};
 }
 
 }  // namespace keplin

@@ -9,11 +9,12 @@ struct RunProgress {
     enum class State { None, UnderWay, Stopped };
 
     State state = State::None;
-    int percent = 0;  // of the progress bar, while it is shown
+    int percent = 0;  // of the progress bar; 0 before it is shown
     friend bool operator==(const RunProgress&, const RunProgress&) = default;
 };
 
-// A bar that stands still while Close can be pressed is that of a run that stopped.
-RunProgress RunProgressOf(const ISPMain& window);
+// How it stands after that control changed. An update that stopped stays so until the next one
+// begins.
+RunProgress ProgressAfter(const RunProgress& before, const Control& changed, const ISPMain& window);
 
 }  // namespace keplin

@@ -31,18 +31,15 @@ bool SpokenTexts::Changed(const Control& control, Aspect aspect) {
             if (other->Container == &control && dynamic_cast<const Label*>(other)) Add(*other);
         }
     }
-    if (&control == &window_.cmdExit && aspect == Aspect::Enabled) FollowRun();
+    if (&control == &window_.cmdExit && aspect == Aspect::Enabled) FollowJob();
     return IsAnyNew();
 }
 
-// Close cannot be pressed during a run, nor during a port test, which disables Port Test before it.
-void SpokenTexts::FollowRun() {
-    if (!window_.cmdExit.Enabled) {
-        running_ = window_.cmdPortTest.Enabled;
-    } else if (std::exchange(running_, false) && RunStopped()) {
-        Add(window_.lblPrgm);
-        fresh_.runStopped = true;
-    }
+void SpokenTexts::FollowJob() {
+    const ISPMain::Job before = std::exchange(job_, window_.UnderWay());
+    if (before != ISPMain::Job::Update || !RunStopped()) return;
+    Add(window_.lblPrgm);
+    fresh_.runStopped = true;
 }
 
 std::string SpokenTexts::Take() {
@@ -61,7 +58,7 @@ std::string SpokenTexts::Latest() const {
 }
 
 bool SpokenTexts::RunStopped() const {
-    return window_.cmdExit.Enabled && window_.Command1.Shown();
+    return window_.UnderWay() == ISPMain::Job::None && window_.Command1.Shown();
 }
 
 bool SpokenTexts::CanBeRead(const Control& control) const {

@@ -34,16 +34,17 @@ class SpokenTexts {
         bool runStopped = false;
     };
 
-    // No run is under way, and the page still offers one. Right after a run: it did not complete.
+    // No job is under way, and the page still offers an update. Right after one: it did not
+    // complete.
     [[nodiscard]] bool RunStopped() const;
     [[nodiscard]] bool CanBeRead(const Control& control) const;
     void Add(const Control& control);
-    void FollowRun();
+    void FollowJob();
 
     const ISPMain& window_;
     News fresh_;
     News taken_;
-    bool running_ = false;
+    ISPMain::Job job_ = ISPMain::Job::None;
 };
 
 }  // namespace keplin

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "device/int16.h"
+#include "platform/int16.h"
 
 namespace keplin {
 namespace {

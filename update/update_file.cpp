@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "device/int16.h"
+#include "platform/int16.h"
 #include "platform/path.h"
 #include "ui/program_instructions.h"
 #include "update/line_reader.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "device/pass_over.h"
+#include "platform/pass_over.h"
 #include "ui/activity.h"
 #include "update/erase_phase.h"
 

@@ -23,7 +23,7 @@ std::int32_t InProcessPort::Open() {
 std::int32_t InProcessPort::ReadByte() {
     const auto byte = Connected() && !lost_ ? wire_.ReadAtHost(Now()) : std::nullopt;
     lost_ = Connected() && wire_.HungUp();
-    idle_ = !byte;
+    mayWait_ = !byte;
     return byte ? *byte : -1;
 }
 
@@ -34,13 +34,13 @@ void InProcessPort::WriteByte(std::uint8_t byte) {
 
 void InProcessPort::WriteText(std::string_view text) {
     if (open_ == 0 || lost_) throw PortError("there is no line");
-    idle_ = false;  // a reply may be there by the next yield
+    mayWait_ = false;  // a reply may be there by the next yield
     if (!Connected()) return;
     wire_.HostSends({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()}, Now());
 }
 
 void InProcessPort::DiscardInput() {
-    idle_ = true;
+    mayWait_ = true;
     if (!Connected()) return;
     wire_.DropArrived(Now());
     lost_ = wire_.HungUp();

@@ -35,7 +35,7 @@ class InProcessPort : public SerialPort, public WatchedLine {
     [[nodiscard]] bool LineLost() const override { return lost_; }
     void ReopenLostLine() override;
 
-    [[nodiscard]] bool TakeIdle() override { return std::exchange(idle_, false) && open_ != 0; }
+    [[nodiscard]] bool TakeWait() override { return std::exchange(mayWait_, false) && open_ != 0; }
     void CheckLine() noexcept override {}
 
   private:
@@ -46,7 +46,7 @@ class InProcessPort : public SerialPort, public WatchedLine {
     std::int32_t number_ = 0;
     std::int32_t open_ = 0;  // the port that is open, or 0
     bool lost_ = false;
-    bool idle_ = true;
+    bool mayWait_ = true;
 };
 
 }  // namespace keplin

@@ -1,29 +1,18 @@
 #include "device/posix/port_list.h"
 
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
 #include <map>
-#include <optional>
 #include <string_view>
 #include <system_error>
+
+#include "device/number_behind.h"
 
 namespace keplin {
 namespace {
 
 namespace fs = std::filesystem;
-
-// The number behind the prefix; nothing when the name has another prefix or no plain number.
-std::optional<std::uint32_t> NumberOf(std::string_view name, std::string_view prefix) {
-    if (!name.starts_with(prefix)) return std::nullopt;
-    const auto digits = name.substr(prefix.size());
-    std::uint32_t number = 0;
-    const auto* const end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, number);
-    if (error != std::errc{} || stop != end) return std::nullopt;
-    return number;
-}
 
 // The kernel keeps names ready for ports that the board does not have; their type is 0.
 bool HasHardware(const fs::path& ttyClassFolder, const std::string& name) {
@@ -38,7 +27,7 @@ std::map<std::uint32_t, std::string> NamesByNumber(const fs::path& folder,
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; entry != end; entry.increment(error)) {
         auto name = entry->path().filename().string();
-        if (const auto number = NumberOf(name, prefix)) names.emplace(*number, std::move(name));
+        if (const auto number = NumberBehind(prefix, name)) names.emplace(*number, std::move(name));
     }
     return names;
 }

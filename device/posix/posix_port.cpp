@@ -29,13 +29,15 @@ bool HasModemLines(int line) {
     return ioctl(line, TIOCMGET, &modemLines) == 0;
 }
 
-// Keeps other programs out while this one talks to a controller.
-bool Claim(int line) {
-    if (flock(line, LOCK_EX | LOCK_NB) != 0) return false;
-    // The lock stops only programs that ask for it, this one stops the others. Not on a
-    // pseudo-terminal: there it would outlast this descriptor.
+// Stops the programs that ask for the lock.
+bool Lock(int line) {
+    return flock(line, LOCK_EX | LOCK_NB) == 0;
+}
+
+// Stops the others too, until CloseLine. Not on a pseudo-terminal: there it would outlast this
+// descriptor.
+void KeepOthersOut(int line) {
     if (HasModemLines(line)) ioctl(line, TIOCEXCL);
-    return true;
 }
 
 constexpr tcflag_t kInputFlags =
@@ -80,8 +82,10 @@ UniqueFd OpenDevice(const std::string& path) {
     // Without O_NONBLOCK the opening would wait for a carrier that a three-wire cable never shows.
     UniqueFd line{::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)};
     const bool usable =
-        line && Claim(line.Get()) && Configure(line.Get()) && tcflush(line.Get(), TCIFLUSH) == 0;
-    return usable ? std::move(line) : UniqueFd{};
+        line && Lock(line.Get()) && Configure(line.Get()) && tcflush(line.Get(), TCIFLUSH) == 0;
+    if (!usable) return {};
+    KeepOthersOut(line.Get());
+    return line;
 }
 
 bool IsPassing(int error) {
@@ -119,7 +123,7 @@ std::int32_t PosixPort::ReadByte() {
     if (!line_) return -1;
     std::uint8_t byte = 0;
     const auto count = ::read(line_.Get(), &byte, 1);
-    idle_ = count != 1;
+    mayWait_ = count != 1;
     if (count == 1) return byte;
     // 0 bytes is how a line that hung up reads, but also an idle one whose settings another program
     // has changed meanwhile.
@@ -128,7 +132,8 @@ std::int32_t PosixPort::ReadByte() {
 }
 
 void PosixPort::WriteText(std::string_view bytes) {
-    BeginWrite();
+    RequireOpen();
+    mayWait_ = true;  // its answer ends the wait
     const Moment deadline = steady_clock::now() + kWriteBound;
     bytes = WriteSome(bytes);
     while (!bytes.empty()) {
@@ -161,7 +166,7 @@ void PosixPort::AwaitRoom(Moment deadline) {
 
 void PosixPort::DiscardInput() {
     if (!line_) return;
-    idle_ = true;
+    mayWait_ = true;
     if (tcflush(line_.Get(), TCIFLUSH) != 0) LoseLine();
 }
 

@@ -115,8 +115,8 @@ void Win32Port::CheckLine() noexcept {
 
 std::int32_t Win32Port::ReadByte() {
     if (unread_.empty()) ReadBlock();
-    idle_ = unread_.empty();
-    if (idle_) return -1;
+    mayWait_ = unread_.empty();
+    if (mayWait_) return -1;
     const std::uint8_t byte = unread_.front();
     unread_ = unread_.subspan(1);
     return byte;
@@ -131,8 +131,8 @@ void Win32Port::ReadBlock() {
 }
 
 void Win32Port::WriteText(std::string_view text) {
-    BeginWrite();
-    idle_ = false;  // a reply may be there by the next yield
+    RequireOpen();
+    mayWait_ = false;  // no byte ends the wait, and its answer may be there by the next yield
     DWORD taken = 0;
     if (!WriteFile(line_.get(), text.data(), static_cast<DWORD>(text.size()), &taken, nullptr)) {
         LoseLine();
@@ -148,7 +148,7 @@ void Win32Port::WriteText(std::string_view text) {
 void Win32Port::DiscardInput() {
     unread_ = {};
     if (!line_) return;
-    idle_ = true;
+    mayWait_ = true;
     if (PurgeComm(line_.get(), PURGE_RXCLEAR)) {
         CheckLine();
     } else {

@@ -20,10 +20,10 @@ using qt::QtDesktop;
 
 // A line that is given by its descriptor alone.
 struct TestLine : WatchedDescriptor {
-    [[nodiscard]] bool TakeIdle() override { return std::exchange(Idle, false); }
+    [[nodiscard]] bool TakeWait() override { return std::exchange(MayWait, false); }
     void CheckLine() noexcept override { OnCheck(); }
 
-    bool Idle = false;
+    bool MayWait = false;
     std::function<void()> OnCheck = [] {};
 };
 

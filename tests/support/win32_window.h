@@ -14,10 +14,10 @@ namespace keplin::test {
 
 class TestLine : public WatchedLine {
   public:
-    [[nodiscard]] bool TakeIdle() override { return std::exchange(Idle, false); }
+    [[nodiscard]] bool TakeWait() override { return std::exchange(MayWait, false); }
     void CheckLine() noexcept override {}
 
-    bool Idle = false;
+    bool MayWait = false;
 };
 
 // The window with its getting-started page.

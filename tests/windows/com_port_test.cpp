@@ -23,7 +23,7 @@ class PlainDesktop : public StandardDesktop {
     explicit PlainDesktop(WatchedLine& line)
         : StandardDesktop({.openFile = [](const auto&) { return KEPLIN_SAMPLE; }}), line_(line) {}
     void YieldOnce() override {
-        if (line_.TakeIdle()) std::this_thread::sleep_for(2ms);
+        if (line_.TakeWait()) std::this_thread::sleep_for(2ms);
     }
     void Sleep(std::chrono::milliseconds duration) override {
         std::this_thread::sleep_for(duration == 50ms ? duration : duration / 10);
@@ -52,8 +52,8 @@ struct ComPort : testing::Test {
             if (byte >= 0) {
                 bytes += static_cast<char>(byte);
             } else {
-                EXPECT_TRUE(port.TakeIdle() || port.LineLost());
-                EXPECT_FALSE(port.TakeIdle()) << "one wait for each read";
+                EXPECT_TRUE(port.TakeWait() || port.LineLost());
+                EXPECT_FALSE(port.TakeWait()) << "one wait for each read";
                 std::this_thread::sleep_for(2ms);
                 ++waits;
             }
@@ -72,7 +72,7 @@ TEST_F(ComPort, IsOpenOnlyWhereThereIsOneAtTheLoadersSettings) {
     EXPECT_FALSE(Open(5)) << "no such device";
     EXPECT_FALSE(Open(3, 9600));
     EXPECT_EQ(port.ReadByte(), -1);
-    EXPECT_FALSE(port.TakeIdle());
+    EXPECT_FALSE(port.TakeWait());
     EXPECT_THROW(port.WriteByte(0x55), PortError);
 
     const auto device = [] {
@@ -103,9 +103,9 @@ TEST_F(ComPort, PassesEveryByteInOrderAndDropsWhatIsDiscarded) {
     EXPECT_EQ(Read(1), "s");
     std::this_thread::sleep_for(100ms);
     EXPECT_EQ(port.ReadByte(), 't') << "the rest is in the adapter's buffer";
-    EXPECT_FALSE(port.TakeIdle()) << "more bytes are waiting";
+    EXPECT_FALSE(port.TakeWait()) << "more bytes are waiting";
     port.DiscardInput();
-    EXPECT_TRUE(port.TakeIdle());
+    EXPECT_TRUE(port.TakeWait());
     EXPECT_EQ(port.ReadByte(), -1);
     port.WriteText("late");
     std::this_thread::sleep_for(100ms);
@@ -133,7 +133,7 @@ TEST_F(ComPort, ALineThatHungUpIsNoticedInEachStepAndOpenedAgainOnlyWhenAskedTo)
             port.ReadByte();  // what came before
         EXPECT_TRUE(port.LineLost());
         EXPECT_EQ(port.ReadByte(), -1);
-        EXPECT_FALSE(port.TakeIdle());
+        EXPECT_FALSE(port.TakeWait());
         EXPECT_THROW(port.WriteByte(0x55), PortError) << "nothing must go to a new line by itself";
         port.ReopenLostLine();
         EXPECT_FALSE(port.LineLost());

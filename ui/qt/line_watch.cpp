@@ -38,7 +38,7 @@ void LineWatch::Watch(int descriptor) {
 }
 
 void LineWatch::ProcessEvents() {
-    if (line_.TakeIdle()) {
+    if (line_.TakeWait()) {
         AwaitByteOrEvent();
     } else {
         QCoreApplication::processEvents();

@@ -13,6 +13,12 @@ namespace {
 // No maximise control: the size is fixed.
 constexpr DWORD kFrame = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
 
+// Alt or F10 alone. There is no menu bar, but the system would wait in it for the next key.
+bool OpensMenuBar(WPARAM command, LPARAM letter) {
+    constexpr WPARAM kOwnBits = 0x000F;  // of the system
+    return (command & ~kOwnBits) == SC_KEYMENU && letter == 0;
+}
+
 // Registers it, with the classes of the controls, where that is not done yet.
 const wchar_t* WindowClass() {
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
@@ -45,6 +51,11 @@ MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
     follower_.Start();
 }
 
+// As its controls go, what the system tells of that is no more for this.
+MainWindow::~MainWindow() {
+    SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DefWindowProcW));
+}
+
 void MainWindow::PaintNow() const {
     RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     GdiFlush();
@@ -59,12 +70,15 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
             if (inSystem_ == 0) follower_.CloseAsked();
             return 0;
         case WM_QUERYENDSESSION:
-            return model_.cmdExit.Enabled;
+            return model_.UnderWay() != ISPMain::Job::Update;
         case kSpeak:
             follower_.Speak();
             return 0;
         case WM_ACTIVATE:
             if (LOWORD(first) != WA_INACTIVE && HIWORD(first) == 0) Focus(focused_);
+            return 0;
+        case WM_SETFOCUS:  // it comes back from the taskbar, say
+            if (focused_) SetFocus(HandleOf(*focused_));
             return 0;
         case WM_KEYDOWN:
             if (first == VK_TAB) MoveFocus(GetKeyState(VK_SHIFT) < 0);
@@ -90,6 +104,8 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
                 SendMessageW(drawn->Handle(), message, first, second);
             break;
         case WM_SYSCOMMAND:
+            if (OpensMenuBar(first, second)) return 0;
+            return LeaveToSystem(message, first, second);
         case WM_NCLBUTTONDOWN:
         case WM_NCRBUTTONDOWN:
         case WM_NCRBUTTONUP:
@@ -119,7 +135,7 @@ void MainWindow::Apply(const Control& control, Aspect aspect) {
     } else {
         (found == drawn_.end() ? drawn_.at(control.Container) : found->second)->Apply(aspect);
     }
-    ShowInTaskbar();
+    ShowInTaskbar(control);
 }
 
 // To a window that is not the active one the focus comes as soon as it is.

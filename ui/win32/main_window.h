@@ -15,6 +15,7 @@ class MainWindow final : public Drawing, public SystemWindow {
     // Draws the model as it stands and follows it from here on; hidden until the model's window is
     // visible. The model must outlive it. `clock` tells since when a button can be pressed.
     explicit MainWindow(ISPMain& model, PressGuard::Clock clock = std::chrono::steady_clock::now);
+    ~MainWindow() override;
 
     [[nodiscard]] HWND HandleOf(const Control& control) const {
         return drawn_.at(&control)->Handle();
@@ -47,7 +48,7 @@ class MainWindow final : public Drawing, public SystemWindow {
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
     LRESULT LeaveToSystem(UINT message, WPARAM first, LPARAM second);
     void MoveFocus(bool backwards);
-    void ShowInTaskbar();
+    void ShowInTaskbar(const Control& changed);
 
     [[nodiscard]] UINT ScreenDots() const;
     [[nodiscard]] double DotsPerInch() const;

@@ -101,8 +101,8 @@ void MainWindow::ShowCentred() const {
 }
 
 // How an update stands, on the window's button; red where it stopped.
-void MainWindow::ShowInTaskbar() {
-    const RunProgress progress = RunProgressOf(model_);
+void MainWindow::ShowInTaskbar(const Control& changed) {
+    const RunProgress progress = ProgressAfter(inTaskbar_, changed, model_);
     if (progress == inTaskbar_) return;
     static const auto taskbar = ObjectOf<ITaskbarList3>(CLSID_TaskbarList, IID_ITaskbarList3);
     if (!taskbar) return;

@@ -76,6 +76,7 @@ class ProgressBarControl final : public DrawnAs<ProgressBar> {
     void Apply(Aspect aspect) override {
         Drawn::Apply(aspect);
         if (aspect == Aspect::Visible) OnTimer();
+        if (aspect == Aspect::Max) StartTimer(Throttle::kBar);  // the value that goes with it first
         if (aspect != Aspect::Value) return;
         const auto pause = throttle_.Changed();
         if (pause) pause->count() == 0 ? OnTimer() : StartTimer(*pause);

@@ -77,7 +77,7 @@ void Win32Desktop::Run() {
 
 void Win32Desktop::YieldOnce() {
     WakeInTime();
-    if (!line_.TakeIdle() || WaitForEvent(kLongestYield)) ProcessEvents();
+    if (!line_.TakeWait() || WaitForEvent(kLongestYield)) ProcessEvents();
 }
 
 // An update sleeps once for each line of its file, so the lateness would add up: the end of a sleep

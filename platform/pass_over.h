@@ -1,4 +1,4 @@
-// How the procedures on the serial line treat a step that fails: they go on with the next one.
+// How a procedure treats a step that fails: it goes on with the next one.
 #pragma once
 
 #include <exception>
@@ -10,7 +10,7 @@ template <typename Step>
 void PassOver(Step&& step) {
     try {
         step();
-    } catch (const std::exception&) {  // the outcome is judged by what the controller answers
+    } catch (const std::exception&) {  // what counts is what the controller answers
     }
 }
 
