@@ -5,10 +5,9 @@
 namespace keplin {
 
 void Speaker::Changed(const Control& control, Aspect aspect) {
-    const bool news = texts_.Changed(control, aspect);
-    if (!drawing_.IsHeard()) texts_.Drop();
-    if (!news || due_ || !drawing_.IsHeard()) return;
-    due_ = true;
+    if (!texts_.Changed(control, aspect)) return;
+    if (!drawing_.IsHeard()) return texts_.Drop();
+    if (std::exchange(due_, true)) return;
     drawing_.SpeakSoon();
 }
 
@@ -25,6 +24,7 @@ void Speaker::Speak() {
 void Speaker::FocusCame(const Button& button) {
     if (&button == focused_) return;
     const Button* before = std::exchange(focused_, &button);
+    if (before == nullptr && !texts_.IsAnyNew()) return;
     if (!drawing_.IsHeard()) return;
     if (before != nullptr) drawing_.Describe(*before, "");
     const std::string news = texts_.Take();

@@ -30,7 +30,7 @@ bool SpokenTexts::Changed(const Control& control, Aspect aspect) {
         }
     }
     if (&control == &model_.cmdExit && aspect == Aspect::Enabled) FollowJob();
-    return fresh_.runStopped || !fresh_.texts.empty();
+    return IsAnyNew();
 }
 
 void SpokenTexts::FollowJob() {
@@ -41,7 +41,7 @@ void SpokenTexts::FollowJob() {
 }
 
 std::string SpokenTexts::Take() {
-    if (!fresh_.runStopped && fresh_.texts.empty()) return "";
+    if (!IsAnyNew()) return "";
     taken_ = std::exchange(fresh_, {});
     return Latest();
 }

@@ -15,6 +15,8 @@ class SpokenTexts {
     // Takes note of a change. True when there is something new to speak.
     bool Changed(const Control& control, Aspect aspect);
 
+    [[nodiscard]] bool IsAnyNew() const { return fresh_.runStopped || !fresh_.texts.empty(); }
+
     // Nothing of it is new any more: nobody listened.
     void Drop() { fresh_ = {}; }
 

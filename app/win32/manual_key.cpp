@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "app/win32/program_folder.h"
+#include "ui/win32/object.h"
 
 namespace keplin {
 
@@ -26,7 +27,10 @@ void OpenManual() {
     open.fMask = SEE_MASK_ASYNCOK | SEE_MASK_FLAG_NO_UI;
     open.lpFile = manual.c_str();
     open.nShow = SW_SHOWNORMAL;
-    ShellExecuteExW(&open);
+    static const auto execute =
+        SystemCall<decltype(ShellExecuteExW)>(L"shell32.dll", "ShellExecuteExW");
+    win32::BeginObjects();
+    execute(&open);
 }
 
 }  // namespace keplin

@@ -1,8 +1,6 @@
 // The program as Windows draws it, with one port or another.
 #pragma once
 
-#include <objbase.h>
-
 #include <utility>
 
 #include "app/program.h"
@@ -12,15 +10,8 @@
 
 namespace keplin {
 
-// What the taskbar, the open-file dialog and the screen reader are reached by.
-struct SystemObjects {
-    SystemObjects() {
-        [[maybe_unused]] const auto done = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    }
-};
-
 template <typename Port>
-struct WindowsProgram : SystemObjects, ProgramOf<Port, win32::MainWindow, win32::Win32Desktop> {
+struct WindowsProgram : ProgramOf<Port, win32::MainWindow, win32::Win32Desktop> {
     using Base = ProgramOf<Port, win32::MainWindow, win32::Win32Desktop>;
 
     template <typename Ports>

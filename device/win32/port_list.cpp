@@ -19,30 +19,23 @@ UniqueKey OpenDeviceMap() {
     return UniqueKey(key);
 }
 
-// The names that matter are ASCII.
-std::string Narrow(const wchar_t* text) {
-    std::string narrow;
-    for (; *text != L'\0'; ++text)
-        narrow += *text < 128 ? static_cast<char>(*text) : '?';
-    return narrow;
-}
-
 }  // namespace
 
+// The names that matter are ASCII.
 std::vector<std::string> ComputerPorts() {
     std::vector<std::string> names;
     const UniqueKey map = OpenDeviceMap();
     for (DWORD i = 0; map; ++i) {
-        std::array<wchar_t, 256> device{};
-        std::array<wchar_t, 256> port{};
+        std::array<char, 256> device{};
+        std::array<char, 256> port{};
         DWORD length = device.size();
-        DWORD bytes = sizeof port - sizeof(wchar_t);
+        DWORD bytes = port.size() - 1;
         DWORD type = 0;
-        const auto result = RegEnumValueW(map.get(), i, device.data(), &length, nullptr, &type,
+        const auto result = RegEnumValueA(map.get(), i, device.data(), &length, nullptr, &type,
                                           reinterpret_cast<BYTE*>(port.data()), &bytes);
         if (result == ERROR_MORE_DATA) continue;  // no port has so long a name
         if (result != ERROR_SUCCESS) break;
-        if (type == REG_SZ) names.push_back(Narrow(port.data()));
+        if (type == REG_SZ) names.push_back(port.data());
     }
     return ByPortNumber(names);
 }

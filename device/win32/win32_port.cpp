@@ -30,12 +30,6 @@ bool EndsWithin(std::chrono::milliseconds limit, Work work) {
     return WaitForSingleObject(thread.get(), static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
 }
 
-// Without sharing: no other program gets in as long as it is open.
-UniqueHandle OpenDevice(const std::wstring& path) {
-    return Own(CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0,
-                           nullptr));
-}
-
 // Nothing holds back, changes or drops a byte.
 void SetRaw(DCB& settings) {
     settings.BaudRate = CBR_38400;
@@ -72,9 +66,11 @@ bool SetTimes(HANDLE line) {
     return SetCommTimeouts(line, &times) != 0;
 }
 
-// A window that is dragged about reads nothing meanwhile: the queue holds two seconds.
+// Without sharing: no other program gets in as long as it is open. A window that is dragged about
+// reads nothing meanwhile: the queue holds two seconds.
 UniqueHandle OpenAndConfigure(const std::wstring& path) {
-    UniqueHandle line = OpenDevice(path);
+    UniqueHandle line = Own(CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                        OPEN_EXISTING, 0, nullptr));
     if (line) SetupComm(line.get(), 8192, 4096);
     const bool usable = line && Configure(line.get()) && SetTimes(line.get()) &&
                         PurgeComm(line.get(), PURGE_RXCLEAR | PURGE_TXCLEAR);

@@ -1,32 +1,28 @@
 #include "ui/win32/drawn.h"
 
 #include <commctrl.h>
-#include <initguid.h>
-// In this order.
-#include <oleacc.h>
+#include <uxtheme.h>
 
-#include "ui/win32/object.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
 
 Drawn::Drawn(const Control& control, const Look& look, HWND container, const wchar_t* windowClass,
              DWORD style)
-    : control_(control),
-      look_(look),
-      handle_(CreateWindowExW(0, windowClass, nullptr, WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 0,
-                              0, container, nullptr, GetModuleHandleW(nullptr), nullptr)) {
-    SetWindowSubclass(handle_, Receive, 0, reinterpret_cast<DWORD_PTR>(this));
-    SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    : SystemWindow(windowClass, WS_CHILD | WS_CLIPSIBLINGS | style,
+                   look.measures->scale.PlaceOf(control), container),
+      control_(control),
+      look_(look) {
+    SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void Drawn::Apply(Aspect aspect) {
     switch (aspect) {
         case Aspect::Visible:
-            ShowWindow(handle_, control_.Visible ? SW_SHOWNA : SW_HIDE);
+            ShowWindow(Handle(), control_.Visible ? SW_SHOWNA : SW_HIDE);
             break;
         case Aspect::Enabled:
-            EnableWindow(handle_, control_.Enabled);
+            EnableWindow(Handle(), control_.Enabled);
             break;
         case Aspect::Left:
         case Aspect::Top:
@@ -44,49 +40,40 @@ void Drawn::Apply(Aspect aspect) {
 
 void Drawn::Rescale() {
     const HFONT font = Now().fonts.Get(Now().fit.Font());
-    SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
     for (const Aspect aspect : {Aspect::Top, Aspect::Enabled, Aspect::Caption, Aspect::Visible})
         Apply(aspect);
 }
 
-void Drawn::SetText(const std::string& text) const {
-    SetWindowTextW(handle_, ToWide(text).c_str());
-}
-
 void Drawn::SetPlace(const PixelRect& place, UINT flags) const {
-    SetWindowPos(handle_, nullptr, place.left, place.top, place.width, place.height,
+    SetWindowPos(Handle(), nullptr, place.left, place.top, place.width, place.height,
                  SWP_NOZORDER | SWP_NOACTIVATE | flags);
 }
 
 void Drawn::SetToolTip(std::size_t part, const RECT& where, const std::string& text) {
     constexpr int kWidest = 600;  // pixels, from which on a text wraps
+    if (tips_ == nullptr && text.empty()) return;
     if (tips_ == nullptr) {
         tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0,
-                                0, 0, 0, handle_, nullptr, GetModuleHandleW(nullptr), nullptr);
+                                0, 0, 0, Handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
         SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, kWidest);
     }
     std::wstring wide = ToWide(text);
-    TTTOOLINFOW tool{sizeof tool, TTF_SUBCLASS, handle_, part,   where,
-                     nullptr,     wide.data(),  0,       nullptr};
+    TTTOOLINFOW tool{sizeof tool, TTF_SUBCLASS, Handle(), part,   where,
+                     nullptr,     wide.data(),  0,        nullptr};
     const bool known = part < static_cast<std::size_t>(SendMessageW(tips_, TTM_GETTOOLCOUNT, 0, 0));
     for (const UINT message : {TTM_NEWTOOLRECTW, TTM_UPDATETIPTEXTW})
         SendMessageW(tips_, known ? message : TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void Drawn::StartTimer(std::chrono::milliseconds pause) const {
-    SetTimer(handle_, kTimer, static_cast<UINT>(pause.count()), nullptr);
+    SetTimer(Handle(), kTimer, static_cast<UINT>(pause.count()), nullptr);
 }
 
 LRESULT Drawn::OnMessage(UINT message, WPARAM first, LPARAM second) {
-    return DefSubclassProc(handle_, message, first, second);
-}
-
-LRESULT CALLBACK Drawn::Receive(HWND handle, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
-                                DWORD_PTR self) {
-    auto& drawn = *reinterpret_cast<Drawn*>(self);
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(handle, Receive, id);
-    if (message != WM_TIMER || first != kTimer) return drawn.OnMessage(message, first, second);
-    drawn.OnTimer();
+    if (message != WM_TIMER || first != kTimer)
+        return SystemWindow::OnMessage(message, first, second);
+    OnTimer();
     return 0;
 }
 
@@ -109,23 +96,13 @@ LRESULT Painted::OnMessage(UINT message, WPARAM first, LPARAM second) {
 void Painted::PaintAll() {
     PAINTSTRUCT paint{};
     const HDC screen = BeginPaint(Handle(), &paint);
-    const PixelSize size = InsideOf(Handle());
-    const MemoryContext memory(CreateCompatibleDC(screen));
-    const Gdi<HBITMAP> bitmap(CreateCompatibleBitmap(screen, size.width, size.height));
-    {
-        const Chosen chosen(memory.get(), bitmap.get());
-        Paint(memory.get(), ToRect(size));
-        BitBlt(screen, 0, 0, size.width, size.height, memory.get(), 0, 0, SRCCOPY);
-    }
+    const RECT inside = ToRect(InsideOf(Handle()));
+    HDC memory = nullptr;
+    const HPAINTBUFFER buffer =
+        BeginBufferedPaint(screen, &inside, BPBF_COMPATIBLEBITMAP, nullptr, &memory);
+    Paint(buffer ? memory : screen, inside);
+    EndBufferedPaint(buffer, TRUE);
     EndPaint(Handle(), &paint);
-}
-
-void Annotate(HWND control, const GUID& property, const std::string& text) {
-    static const auto properties =
-        ObjectOf<IAccPropServices>(CLSID_AccPropServices, IID_IAccPropServices);
-    const auto object = static_cast<DWORD>(OBJID_CLIENT);
-    if (!properties) return;
-    properties->SetHwndPropStr(control, object, CHILDID_SELF, property, ToWide(text).c_str());
 }
 
 }  // namespace keplin::win32

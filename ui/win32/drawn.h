@@ -9,6 +9,7 @@
 #include "ui/follower.h"
 #include "ui/text_fit.h"
 #include "ui/win32/fonts.h"
+#include "ui/win32/system_window.h"
 
 namespace keplin::win32 {
 
@@ -32,19 +33,11 @@ struct Look {
     std::unique_ptr<const Measures> measures;
 };
 
-// What the window and its controls send each other beyond the system's own messages.
-inline constexpr UINT kPress = WM_APP;           // to a button: what a press does is due
-inline constexpr UINT kCloseAsked = WM_APP + 1;  // to the window: it is to close
-inline constexpr UINT kSpeak = WM_APP + 2;       // to the window: there is news to speak
-
-class Drawn {
+class Drawn : public SystemWindow {
   public:
     // Made of the system's control of that class, above those that stand in the container already.
     Drawn(const Control& control, const Look& look, HWND container, const wchar_t* windowClass,
           DWORD style);
-    virtual ~Drawn() = default;
-    Drawn(const Drawn&) = delete;
-    Drawn& operator=(const Drawn&) = delete;
 
     // Takes over from the model what the aspect names; this one what every control has: its place,
     // whether it is there and enabled, and its text.
@@ -54,24 +47,20 @@ class Drawn {
     // The measures are new ones, or the control is. Takes over everything.
     virtual void Rescale();
 
-    [[nodiscard]] HWND Handle() const { return handle_; }
-
   protected:
-    void SetText(const std::string& text) const;
     void SetPlace(const PixelRect& place, UINT flags = 0) const;
-    void Repaint() const { InvalidateRect(handle_, nullptr, FALSE); }
+    void Repaint() const { InvalidateRect(Handle(), nullptr, FALSE); }
     // Shows the text while the mouse rests there; "" shows nothing. `part` counts from 0, and a new
     // one follows the last.
     void SetToolTip(std::size_t part, const RECT& where, const std::string& text);
     // OnTimer comes again and again after that time; the system knows none shorter than 10 ms.
     void StartTimer(std::chrono::milliseconds pause) const;
-    void StopTimer() const { KillTimer(handle_, kTimer); }
+    void StopTimer() const { KillTimer(Handle(), kTimer); }
 
     virtual void OnTimer() {}
     // By which others find the control, and which the system's control writes.
     [[nodiscard]] virtual std::string Text() const { return AccessibleTextOf(control_).name; }
-    // What the control is sent. The default does what the system's control does with it.
-    virtual LRESULT OnMessage(UINT message, WPARAM first, LPARAM second);
+    LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
     [[nodiscard]] virtual PixelRect PlaceNow() const { return Now().scale.PlaceOf(control_); }
 
     [[nodiscard]] const Measures& Now() const { return *look_.measures; }
@@ -80,12 +69,21 @@ class Drawn {
     const Look& look_;
 
   private:
-    static LRESULT CALLBACK Receive(HWND handle, UINT message, WPARAM first, LPARAM second,
-                                    UINT_PTR id, DWORD_PTR self);
     static constexpr UINT_PTR kTimer = 470;  // clear of those that the system's controls have
 
-    const HWND handle_;
     HWND tips_ = nullptr;  // made with the first tool tip; belongs to the control's window
+};
+
+// One that knows the control of the model as what it is.
+template <typename Kind, typename Base = Drawn>
+class DrawnAs : public Base {
+  public:
+    DrawnAs(const Kind& control, const Look& look, HWND container,
+            const wchar_t* windowClass = L"STATIC", DWORD style = SS_NOPREFIX)
+        : Base(control, look, container, windowClass, style), model_(control) {}
+
+  protected:
+    const Kind& model_;
 };
 
 // One that is painted here and not by the system: all of its place, in one go.

@@ -46,15 +46,19 @@ inline PixelSize InsideOf(HWND window) {
     return {inside.right, inside.bottom};
 }
 
-inline void Fill(HDC context, const RECT& rect, COLORREF colour) {
+// To be used in the context before another one is asked for.
+inline HBRUSH Brush(HDC context, COLORREF colour) {
     SetDCBrushColor(context, colour);
-    FillRect(context, &rect, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+}
+
+inline void Fill(HDC context, const RECT& rect, COLORREF colour) {
+    FillRect(context, &rect, Brush(context, colour));
 }
 
 // One pixel wide, along the inside of the rectangle.
 inline void Outline(HDC context, const RECT& rect, COLORREF colour) {
-    SetDCBrushColor(context, colour);
-    FrameRect(context, &rect, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    FrameRect(context, &rect, Brush(context, colour));
 }
 
 // Draws the picture from the top-left corner, in that size.

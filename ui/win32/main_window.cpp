@@ -10,8 +10,6 @@
 namespace keplin::win32 {
 namespace {
 
-constexpr const wchar_t* kClass = L"KeplinWindow";
-
 // No maximise control: the size is fixed.
 constexpr DWORD kFrame = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
 
@@ -21,63 +19,52 @@ bool OpensMenuBar(WPARAM command, LPARAM letter) {
     return (command & ~kOwnBits) == SC_KEYMENU && letter == 0;
 }
 
-void RegisterOnce(WNDPROC receive) {
+// Registers it, with the classes of the controls, where that is not done yet.
+const wchar_t* WindowClass() {
+    const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
+    InitCommonControlsEx(&controls);
     WNDCLASSEXW kind{};
     kind.cbSize = sizeof kind;
-    kind.lpfnWndProc = receive;
+    kind.lpfnWndProc = DefWindowProcW;
     kind.hInstance = GetModuleHandleW(nullptr);
     kind.hIcon = ProgramIcon(SM_CXICON);
     kind.hIconSm = ProgramIcon(SM_CXSMICON);
     kind.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     kind.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-    kind.lpszClassName = kClass;
+    kind.lpszClassName = L"KeplinWindow";
     RegisterClassExW(&kind);
+    return kind.lpszClassName;
 }
 
 }  // namespace
 
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
-    : model_(model),
+    : SystemWindow(WindowClass(), kFrame, {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0}, nullptr),
+      model_(model),
       follower_(model, *this, std::move(clock)),
-      look_{model, follower_, focused_, [this] { return inSystem_ == 0; }, nullptr} {
-    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
-    InitCommonControlsEx(&classes);
-    RegisterOnce(Receive);
-    handle_ = CreateWindowExW(0, kClass, nullptr, kFrame, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
-                              nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
-    SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    screenDots_ = ScreenDots();
-    Measure();
-    drawn_ = MakeControls(handle_, look_);
+      look_{model, follower_, focused_, [this] { return inSystem_ == 0; }, nullptr},
+      screenDots_(ScreenDots()) {
+    Rescale();
+    drawn_ = MakeControls(Handle(), look_);
     // The focus shows from the start, not only after the first use of the keyboard.
-    SendMessageW(handle_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    SendMessageW(Handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
     follower_.Start();
 }
 
+// As its controls go, what the system tells of that is no more for this.
 MainWindow::~MainWindow() {
-    SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
-    DestroyWindow(handle_);
+    SetWindowLongPtrW(Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DefWindowProcW));
 }
 
 void MainWindow::PaintNow() const {
-    RedrawWindow(handle_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     GdiFlush();
-}
-
-LRESULT CALLBACK MainWindow::Receive(HWND handle, UINT message, WPARAM first, LPARAM second) {
-    auto* window = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
-    return window ? window->OnMessage(message, first, second)
-                  : DefWindowProcW(handle, message, first, second);
 }
 
 LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
     switch (message) {
-        case WM_COMMAND:
-            if (HIWORD(first) == BN_CLICKED && second != 0)
-                PostMessageW(reinterpret_cast<HWND>(second), kPress, 0, 0);
-            return 0;
         case WM_CLOSE:  // sent from within the system's own loop
-            PostMessageW(handle_, kCloseAsked, 0, 0);
+            PostMessageW(Handle(), kCloseAsked, 0, 0);
             return 0;
         case kCloseAsked:
             if (inSystem_ == 0) follower_.CloseAsked();
@@ -103,7 +90,7 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
             const auto* place = reinterpret_cast<const RECT*>(second);
             screenDots_ = HIWORD(first);
             Rescale();
-            SetWindowPos(handle_, nullptr, place->left, place->top, 0, 0,
+            SetWindowPos(Handle(), nullptr, place->left, place->top, 0, 0,
                          SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
             return 0;
         }
@@ -127,7 +114,7 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
         default:
             break;
     }
-    return DefWindowProcW(handle_, message, first, second);
+    return SystemWindow::OnMessage(message, first, second);
 }
 
 // While the technician holds the title bar, or a menu of it is open, the system processes the
@@ -135,7 +122,7 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
 // begin from there.
 LRESULT MainWindow::LeaveToSystem(UINT message, WPARAM first, LPARAM second) {
     ++inSystem_;
-    const LRESULT result = DefWindowProcW(handle_, message, first, second);
+    const LRESULT result = SystemWindow::OnMessage(message, first, second);
     --inSystem_;
     return result;
 }
@@ -154,7 +141,7 @@ void MainWindow::Apply(const Control& control, Aspect aspect) {
 // To a window that is not the active one the focus comes as soon as it is.
 void MainWindow::Focus(const Button* button) {
     focused_ = button;
-    if (GetActiveWindow() == handle_) SetFocus(button ? HandleOf(*button) : handle_);
+    if (GetActiveWindow() == Handle()) SetFocus(button ? HandleOf(*button) : Handle());
 }
 
 void MainWindow::MoveFocus(bool backwards) {
@@ -167,28 +154,24 @@ void MainWindow::MoveFocus(bool backwards) {
     if (found != order.end()) Focus(*found);
 }
 
-void MainWindow::Measure() {
-    look_.measures = std::make_unique<const Measures>(model_, DotsPerInch());
-}
-
 // The fonts before it live on until every control has a new one.
 void MainWindow::Rescale() {
-    const auto before = std::exchange(look_.measures, nullptr);
-    Measure();
+    const auto before =
+        std::exchange(look_.measures, std::make_unique<const Measures>(model_, DotsPerInch()));
     for (const auto& [control, drawn] : drawn_)
         drawn->Rescale();
     ApplySize();
-    RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void MainWindow::ApplyToWindow(Aspect aspect) {
     const Form& form = model_;
-    if (aspect == Aspect::Caption) SetWindowTextW(handle_, ToWide(form.Caption.Get()).c_str());
+    if (aspect == Aspect::Caption) SetText(form.Caption);
     if (aspect == Aspect::Height) ApplySize();
     if (aspect == Aspect::Visible && form.Visible) ShowCentred();
-    if (aspect == Aspect::Visible && !form.Visible) ShowWindow(handle_, SW_HIDE);
+    if (aspect == Aspect::Visible && !form.Visible) ShowWindow(Handle(), SW_HIDE);
     if (aspect == Aspect::WindowState && form.WindowState.Get() == Form::State::Minimised) {
-        ShowWindow(handle_, SW_MINIMIZE);
+        ShowWindow(Handle(), SW_MINIMIZE);
     }
 }
 

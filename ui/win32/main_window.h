@@ -6,16 +6,17 @@
 
 namespace keplin::win32 {
 
-class MainWindow final : public Drawing {
+// What the window sends itself beside kPress.
+inline constexpr UINT kCloseAsked = kPress + 1;  // it is to close
+inline constexpr UINT kSpeak = kPress + 2;       // there is news to speak
+
+class MainWindow final : public Drawing, public SystemWindow {
   public:
     // Draws the model as it stands and follows it from here on; hidden until the model's window is
     // visible. The model must outlive it. `clock` tells since when a button can be pressed.
     explicit MainWindow(ISPMain& model, PressGuard::Clock clock = std::chrono::steady_clock::now);
     ~MainWindow() override;
-    MainWindow(const MainWindow&) = delete;
-    MainWindow& operator=(const MainWindow&) = delete;
 
-    [[nodiscard]] HWND Handle() const { return handle_; }
     [[nodiscard]] HWND HandleOf(const Control& control) const {
         return drawn_.at(&control)->Handle();
     }
@@ -24,7 +25,7 @@ class MainWindow final : public Drawing {
     // Puts something into the window that is not in its model, above all that is.
     template <typename Kind>
     Drawn& Add(const Control& place) {
-        return *(drawn_[&place] = std::make_unique<Kind>(place, look_, handle_));
+        return *(drawn_[&place] = std::make_unique<Kind>(place, look_, Handle()));
     }
 
     // Brings to the screen what is not painted yet.
@@ -39,20 +40,18 @@ class MainWindow final : public Drawing {
     void Focus(const Button* button) override;
     void CallForAttention() override;
     [[nodiscard]] bool IsHeard() const override;
-    void SpeakSoon() override { PostMessageW(handle_, kSpeak, 0, 0); }
+    void SpeakSoon() override { PostMessageW(Handle(), kSpeak, 0, 0); }
     void Describe(const Button& button, const std::string& news) override;
     void Announce(const Button& button, const std::string& news) override;
 
   private:
-    static LRESULT CALLBACK Receive(HWND handle, UINT message, WPARAM first, LPARAM second);
-    LRESULT OnMessage(UINT message, WPARAM first, LPARAM second);
+    LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
     LRESULT LeaveToSystem(UINT message, WPARAM first, LPARAM second);
     void MoveFocus(bool backwards);
     void ShowInTaskbar(const Control& changed);
 
     [[nodiscard]] UINT ScreenDots() const;
     [[nodiscard]] double DotsPerInch() const;
-    void Measure();
     void Rescale();
     void ApplyToWindow(Aspect aspect);
     void ApplySize() const;
@@ -61,12 +60,11 @@ class MainWindow final : public Drawing {
     ISPMain& model_;
     Follower follower_;
     Look look_;
-    HWND handle_ = nullptr;
     DrawnControls drawn_;
     const Button* focused_ = nullptr;
     RunProgress inTaskbar_;
-    UINT screenDots_ = 0;  // per inch
-    int inSystem_ = 0;     // the system's own loops that are at work
+    UINT screenDots_;   // per inch
+    int inSystem_ = 0;  // the system's own loops that are at work
 };
 
 }  // namespace keplin::win32

@@ -9,7 +9,7 @@ class Factory : public ControlVisitor {
     Factory(HWND window, const Look& look) : window_(window), look_(look) {}
 
     void Visit(const Form&) override {}
-    void Visit(const Page& page) override { Add<PageControl>(page); }
+    void Visit(const Page& page) override { Add<Container<Page>>(page); }
     void Visit(const Frame& frame) override { Add<FrameControl>(frame); }
     void Visit(const Label& label) override { Add<LabelControl>(label); }
     void Visit(const Button& button) override { Add<ButtonControl>(button); }

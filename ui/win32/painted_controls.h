@@ -8,57 +8,45 @@
 namespace keplin::win32 {
 
 // Keeps its colour whatever the system's are; what stands on it keeps the system's.
-class Container : public Painted {
+template <typename Kind>
+class Container : public DrawnAs<Kind, Painted> {
   public:
-    Container(const Control& control, Colour background, const Look& look, HWND container,
-              const wchar_t* windowClass, DWORD style)
-        : Painted(control, look, container, windowClass, style | WS_CLIPCHILDREN),
-          background_(ToRef(background)) {}
+    Container(const Kind& control, const Look& look, HWND container,
+              const wchar_t* windowClass = L"STATIC", DWORD style = 0)
+        : DrawnAs<Kind, Painted>(control, look, container, windowClass, style | WS_CLIPCHILDREN) {}
 
   protected:
-    void Paint(HDC context, const RECT& inside) override { Fill(context, inside, background_); }
-
-    // Passes a press on to the window, and gives the corners of a button the background.
-    LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override {
-        if (message == WM_COMMAND) return SendMessageW(GetParent(Handle()), message, first, second);
-        if (message != WM_CTLCOLORBTN) return Painted::OnMessage(message, first, second);
-        SetDCBrushColor(reinterpret_cast<HDC>(first), background_);
-        return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+    void Paint(HDC context, const RECT& inside) override {
+        Fill(context, inside, ToRef(this->model_.Background));
     }
 
-  private:
-    const COLORREF background_;
-};
-
-class PageControl final : public Container {
-  public:
-    PageControl(const Page& page, const Look& look, HWND container)
-        : Container(page, page.Background, look, container, L"STATIC", 0) {}
+    // Gives the corners of a button the background.
+    LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override {
+        if (message != WM_CTLCOLORBTN) return Painted::OnMessage(message, first, second);
+        const HDC context = reinterpret_cast<HDC>(first);
+        return reinterpret_cast<LRESULT>(Brush(context, ToRef(this->model_.Background)));
+    }
 };
 
 // A group box to the screen reader; painted plainly, so that its inside is the whole place.
-class FrameControl final : public Container {
+class FrameControl final : public Container<Frame> {
   public:
     FrameControl(const Frame& frame, const Look& look, HWND container)
-        : Container(frame, frame.Background, look, container, L"BUTTON", BS_GROUPBOX),
-          frame_(frame) {}
+        : Container(frame, look, container, L"BUTTON", BS_GROUPBOX) {}
 
   protected:
     void Paint(HDC context, const RECT& inside) override {
         Container::Paint(context, inside);
-        const std::string& caption = frame_.Caption;
+        const std::string& caption = model_.Caption;
         const TextFont& font = Now().fit.Font();
         const PixelSize line = Now().fonts.LineSize(caption, font);
         const FrameParts parts = PartsOfFrame(InsideOf(Handle()), line, Now().scale);
-        Outline(context, ToRect(parts.outline), ToRef(OutlineOn(frame_.Background)));
+        Outline(context, ToRect(parts.outline), ToRef(OutlineOn(model_.Background)));
         if (caption.empty()) return;
-        Fill(context, ToRect(parts.gap), ToRef(frame_.Background));
+        Fill(context, ToRect(parts.gap), ToRef(model_.Background));
         SetTextColor(context, ToRef(kBlack));
         Now().fonts.DrawWrapped(context, caption, font, Alignment::Left, parts.caption);
     }
-
-  private:
-    const Frame& frame_;
 };
 
 // The colour on which a control stands that is inside this container; nullptr is the window.
@@ -68,10 +56,9 @@ inline COLORREF BackgroundIn(const Control* container) {
     return GetSysColor(COLOR_BTNFACE);
 }
 
-class LabelControl final : public Painted {
+class LabelControl final : public DrawnAs<Label, Painted> {
   public:
-    LabelControl(const Label& label, const Look& look, HWND container)
-        : Painted(label, look, container, L"STATIC", SS_NOPREFIX), label_(label) {}
+    using DrawnAs::DrawnAs;
 
     void Apply(Aspect aspect) override {
         Painted::Apply(aspect);
@@ -79,7 +66,7 @@ class LabelControl final : public Painted {
     }
 
     void Refit() override {
-        const TextFont font = Now().fit.FontOf(label_);
+        const TextFont font = Now().fit.FontOf(model_);
         if (font != std::exchange(font_, font)) Repaint();
     }
 
@@ -87,41 +74,35 @@ class LabelControl final : public Painted {
     // On the colour of its container, which shows through it: what of a neighbour below it lies
     // there is blank.
     void Paint(HDC context, const RECT& inside) override {
-        const auto& background = label_.Style.background;
-        Fill(context, inside, background ? ToRef(*background) : BackgroundIn(label_.Container));
-        if (label_.Style.border) Outline(context, inside, ToRef(kBlack));
-        const auto colour = TextColourOf(label_);
+        const auto& background = model_.Style.background;
+        Fill(context, inside, background ? ToRef(*background) : BackgroundIn(model_.Container));
+        if (model_.Style.border) Outline(context, inside, ToRef(kBlack));
+        const auto colour = TextColourOf(model_);
         SetTextColor(context, colour ? ToRef(*colour) : GetSysColor(COLOR_BTNTEXT));
-        Now().fonts.DrawWrapped(context, label_.Caption, font_, label_.Style.alignment,
-                                Now().fit.AreaOf(label_));
+        Now().fonts.DrawWrapped(context, model_.Caption, font_, model_.Style.alignment,
+                                Now().fit.AreaOf(model_));
     }
 
   private:
-    const Label& label_;
     TextFont font_;
 };
 
-class PictureControl final : public Painted {
+class PictureControl final : public DrawnAs<Picture, Painted> {
   public:
-    PictureControl(const Picture& picture, const Look& look, HWND container)
-        : Painted(picture, look, container, L"STATIC", SS_NOPREFIX), picture_(picture) {}
+    using DrawnAs::DrawnAs;
 
   protected:
     void Paint(HDC context, const RECT& inside) override {
-        Fill(context, inside, BackgroundIn(picture_.Container));
-        DrawImage(context, picture_.Shows, InsideOf(Handle()));
+        Fill(context, inside, BackgroundIn(model_.Container));
+        DrawImage(context, model_.Shows, InsideOf(Handle()));
     }
-
-  private:
-    const Picture& picture_;
 };
 
 // Filled, or an outline in the window's text colour. It moves sideways a limited number of times a
 // second however often its place changes.
-class ShapeControl final : public Painted {
+class ShapeControl final : public DrawnAs<Shape, Painted> {
   public:
-    ShapeControl(const Shape& shape, const Look& look, HWND container)
-        : Painted(shape, look, container, L"STATIC", 0), shape_(shape) {}
+    using DrawnAs::DrawnAs;
 
     void Apply(Aspect aspect) override {
         if (aspect != Aspect::Left) {
@@ -140,12 +121,11 @@ class ShapeControl final : public Painted {
     }
 
     void Paint(HDC context, const RECT& inside) override {
-        Fill(context, inside, shape_.Fill ? ToRef(*shape_.Fill) : BackgroundIn(shape_.Container));
-        if (!shape_.Fill) Outline(context, inside, GetSysColor(COLOR_BTNTEXT));
+        Fill(context, inside, model_.Fill ? ToRef(*model_.Fill) : BackgroundIn(model_.Container));
+        if (!model_.Fill) Outline(context, inside, GetSysColor(COLOR_BTNTEXT));
     }
 
   private:
-    const Shape& shape_;
     Throttle throttle_{Throttle::kShape};
 };
 

@@ -1,4 +1,6 @@
 // What the window has to do with what is around it: the screen, the taskbar and a screen reader.
+#include <initguid.h>
+// In this order.
 #include <oleacc.h>
 #include <shobjidl.h>
 
@@ -14,14 +16,6 @@ namespace {
 
 constexpr const wchar_t* kAutomation = L"uiautomationcore.dll";
 
-// A function that not every system has; nullptr where it is missing. `Function` is its type.
-template <typename Function>
-Function* SystemCall(const wchar_t* library, const char* name) {
-    const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (module == nullptr) return nullptr;
-    return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
-}
-
 // False on a system that has no such notification.
 bool Notify(HWND control, const std::string& text) {
     using Provider = IUnknown;  // what a control is told of by
@@ -29,13 +23,17 @@ bool Notify(HWND control, const std::string& text) {
         SystemCall<HRESULT WINAPI(HWND, Provider**)>(kAutomation, "UiaHostProviderFromHwnd");
     static const auto raise = SystemCall<HRESULT WINAPI(Provider*, int, int, BSTR, BSTR)>(
         kAutomation, "UiaRaiseNotificationEvent");
+    static const auto allocate =
+        SystemCall<decltype(SysAllocString)>(L"oleaut32.dll", "SysAllocString");
+    static const auto release =
+        SystemCall<decltype(SysFreeString)>(L"oleaut32.dll", "SysFreeString");
     constexpr int kKindOther = 4;
     constexpr int kProcessAll = 2;  // none is left out over the next
-    using Text = Owned<BSTR, SysFreeString>;
     Object<Provider> provider;
     if (!provide || !raise || provide(control, &provider) != S_OK) return false;
-    const Text spoken(SysAllocString(ToWide(text).c_str()));
-    const Text activity(SysAllocString(L"keplin.news"));
+    const std::unique_ptr<OLECHAR, decltype(release)> spoken(allocate(ToWide(text).c_str()),
+                                                             release);
+    const std::unique_ptr<OLECHAR, decltype(release)> activity(allocate(L"keplin.news"), release);
     return raise(provider.Get(), kKindOther, kProcessAll, spoken.get(), activity.get()) == S_OK;
 }
 
@@ -72,34 +70,34 @@ double TextSize() {
 // One for all screens where the system knows no other.
 UINT MainWindow::ScreenDots() const {
     static const auto ask = SystemCall<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
-    if (ask) return ask(handle_);
+    if (ask) return ask(Handle());
     const MemoryContext screen(CreateCompatibleDC(nullptr));
     return static_cast<UINT>(GetDeviceCaps(screen.get(), LOGPIXELSY));
 }
 
 double MainWindow::DotsPerInch() const {
-    const PixelRect screen = WorkAreaOf(handle_);
+    const PixelRect screen = WorkAreaOf(Handle());
     return FittingDotsPerInch(screenDots_ * TextSize(), {screen.width, screen.height}, model_);
 }
 
 // What the frame takes is known from the window itself; once it is larger the frame may be another.
 void MainWindow::ApplySize() const {
     const PixelSize wanted = Now().scale.ClientSize(model_);
-    for (int pass = 0; pass < 2; ++pass) {
-        const PixelRect outer = OuterPlaceOf(handle_);
-        const PixelSize inside = InsideOf(handle_);
-        SetWindowPos(handle_, nullptr, 0, 0, outer.width - inside.width + wanted.width,
+    for (int pass = 0; pass < 2 && InsideOf(Handle()) != wanted; ++pass) {
+        const PixelRect outer = OuterPlaceOf(Handle());
+        const PixelSize inside = InsideOf(Handle());
+        SetWindowPos(Handle(), nullptr, 0, 0, outer.width - inside.width + wanted.width,
                      outer.height - inside.height + wanted.height,
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
 
 void MainWindow::ShowCentred() const {
-    const PixelRect outer = OuterPlaceOf(handle_);
-    const PixelRect place = Centred({outer.width, outer.height}, WorkAreaOf(handle_));
-    SetWindowPos(handle_, nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    ShowWindow(handle_, SW_SHOWNORMAL);
-    UpdateWindow(handle_);
+    const PixelRect outer = OuterPlaceOf(Handle());
+    const PixelRect place = Centred({outer.width, outer.height}, WorkAreaOf(Handle()));
+    SetWindowPos(Handle(), nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    ShowWindow(Handle(), SW_SHOWNORMAL);
+    UpdateWindow(Handle());
 }
 
 // How an update stands, on the window's button; red where it stopped.
@@ -110,14 +108,14 @@ void MainWindow::ShowInTaskbar(const Control& changed) {
     if (!taskbar) return;
     inTaskbar_ = progress;
     if (progress.state != RunProgress::State::None)
-        taskbar->SetProgressValue(handle_, static_cast<ULONGLONG>(progress.percent), 100);
+        taskbar->SetProgressValue(Handle(), static_cast<ULONGLONG>(progress.percent), 100);
     constexpr std::array kFlags{TBPF_NOPROGRESS, TBPF_NORMAL, TBPF_ERROR};  // as State has them
-    taskbar->SetProgressState(handle_, kFlags.at(static_cast<std::size_t>(progress.state)));
+    taskbar->SetProgressState(Handle(), kFlags.at(static_cast<std::size_t>(progress.state)));
 }
 
 void MainWindow::CallForAttention() {
-    if (GetForegroundWindow() == handle_) return;
-    FLASHWINFO flash{sizeof flash, handle_, FLASHW_ALL | FLASHW_TIMERNOFG, 0, 0};
+    if (GetForegroundWindow() == Handle()) return;
+    FLASHWINFO flash{sizeof flash, Handle(), FLASHW_ALL | FLASHW_TIMERNOFG, 0, 0};
     FlashWindowEx(&flash);
 }
 
@@ -126,6 +124,14 @@ bool MainWindow::IsHeard() const {
     BOOL reader = FALSE;
     SystemParametersInfoW(SPI_GETSCREENREADER, 0, &reader, 0);
     return reader || (listening && listening());
+}
+
+void Annotate(HWND control, const GUID& property, const std::string& text) {
+    static const auto properties =
+        ObjectOf<IAccPropServices>(CLSID_AccPropServices, IID_IAccPropServices);
+    const auto object = static_cast<DWORD>(OBJID_CLIENT);
+    if (!properties) return;
+    properties->SetHwndPropStr(control, object, CHILDID_SELF, property, ToWide(text).c_str());
 }
 
 void MainWindow::Describe(const Button& button, const std::string& news) {

@@ -15,18 +15,17 @@
 
 namespace keplin::win32 {
 
-// Takes no press that was not meant for it. A press becomes a message of its own: whoever made it,
-// a screen reader for instance, need not wait for what it does.
-class ButtonControl final : public Drawn {
+// Takes no press that was not meant for it.
+class ButtonControl final : public DrawnAs<Button> {
   public:
     ButtonControl(const Button& button, const Look& look, HWND container)
-        : Drawn(button, look, container, L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP), button_(button) {}
+        : DrawnAs(button, look, container, L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP) {}
 
   protected:
     // To the system a single ampersand would be the mark of a shortcut.
     [[nodiscard]] std::string Text() const override {
         std::string text;
-        for (const char letter : button_.Caption.Get())
+        for (const char letter : model_.Caption.Get())
             text.append(letter == '&' ? 2 : 1, letter);
         return text;
     }
@@ -35,17 +34,17 @@ class ButtonControl final : public Drawn {
         switch (message) {
             case WM_LBUTTONDOWN:
             case WM_LBUTTONDBLCLK:
-                if (!look_.follower.MouseDown(button_)) return 0;
+                if (!look_.follower.MouseDown(model_)) return 0;
                 break;
             case WM_KEYDOWN:
                 if (TakeKey(first, second)) return 0;
                 break;
             case WM_SETFOCUS:
-                look_.focused = &button_;
-                look_.follower.FocusCame(button_);
+                look_.focused = &model_;
+                look_.follower.FocusCame(model_);
                 break;
             case kPress:
-                if (look_.mayAct()) look_.follower.Press(button_);
+                if (look_.mayAct()) look_.follower.Press(model_);
                 return 0;
             default:
                 break;
@@ -60,19 +59,17 @@ class ButtonControl final : public Drawn {
         if (key != VK_RETURN && key != VK_SPACE) return key == VK_TAB;
         const PressKey pressing = key == VK_RETURN ? PressKey::Enter : PressKey::Space;
         const bool repeated = (HIWORD(details) & KF_REPEAT) != 0;
-        const KeyEffect effect = look_.follower.KeyDown(button_, pressing, repeated);
+        const KeyEffect effect = look_.follower.KeyDown(model_, pressing, repeated);
         if (effect == KeyEffect::Press) PostMessageW(Handle(), kPress, 0, 0);
         return effect != KeyEffect::PassOn;
     }
-
-    const Button& button_;
 };
 
 // Shown a limited number of times a second however often its value changes.
-class ProgressBarControl final : public Drawn {
+class ProgressBarControl final : public DrawnAs<ProgressBar> {
   public:
     ProgressBarControl(const ProgressBar& bar, const Look& look, HWND container)
-        : Drawn(bar, look, container, PROGRESS_CLASSW, PBS_SMOOTH), bar_(bar) {
+        : DrawnAs(bar, look, container, PROGRESS_CLASSW, PBS_SMOOTH) {
         ShowSteps(StepsDone(bar));
     }
 
@@ -90,9 +87,9 @@ class ProgressBarControl final : public Drawn {
         StopTimer();
         throttle_.WasShown();
         const PixelSize size = InsideOf(Handle());
-        const int steps = StepsDone(bar_);
+        const int steps = StepsDone(model_);
         if (CanBeSeen(steps, shown_, size.width)) ShowSteps(steps);
-        const std::string done = bar_.DoneText();
+        const std::string done = model_.DoneText();
         if (done == std::exchange(told_, done)) return;
         SetToolTip(0, ToRect(size), done);
         Annotate(Handle(), PROPID_ACC_VALUE, done);
@@ -109,18 +106,16 @@ class ProgressBarControl final : public Drawn {
         shown_ = steps;
     }
 
-    const ProgressBar& bar_;
     Throttle throttle_{Throttle::kBar};
     int shown_ = 0;
-    std::string told_ = bar_.DoneText();
+    std::string told_ = model_.DoneText();
 };
 
 // With its panels.
-class StatusBarControl final : public Drawn {
+class StatusBarControl final : public DrawnAs<StatusBar> {
   public:
     StatusBarControl(const StatusBar& bar, const Look& look, HWND container)
-        : Drawn(bar, look, container, STATUSCLASSNAMEW, CCS_NORESIZE | CCS_NOPARENTALIGN),
-          bar_(bar) {}
+        : DrawnAs(bar, look, container, STATUSCLASSNAMEW, CCS_NORESIZE | CCS_NOPARENTALIGN) {}
 
     void Apply(Aspect aspect) override {
         Drawn::Apply(aspect);
@@ -129,7 +124,7 @@ class StatusBarControl final : public Drawn {
 
   protected:
     [[nodiscard]] PixelRect PlaceNow() const override {
-        return Now().scale.PlaceAtBottom(bar_, look_.model);
+        return Now().scale.PlaceAtBottom(model_, look_.model);
     }
 
   private:
@@ -142,39 +137,34 @@ class StatusBarControl final : public Drawn {
         };
         const PixelRect place = PlaceNow();
         const auto panels =
-            ArrangePanels(bar_, {place.width, place.height}, Now().scale, kBevel, width);
-        std::vector<int> ends(panels.size());
-        std::transform(panels.begin(), panels.end(), ends.begin(),
-                       [](const PanelView& panel) { return panel.place.Right(); });
+            ArrangePanels(model_, {place.width, place.height}, Now().scale, kBevel, width);
+        std::vector<int> ends;
+        ends.reserve(panels.size());
+        for (const PanelView& panel : panels)
+            ends.push_back(panel.place.Right());
         SendMessageW(Handle(), SB_SETPARTS, ends.size(), reinterpret_cast<LPARAM>(ends.data()));
         for (std::size_t i = 0; i < panels.size(); ++i) {
-            const bool centred = bar_.Panels(i + 1).TextAlignment == Alignment::Centre;
+            const bool centred = model_.Panels(i + 1).TextAlignment == Alignment::Centre;
             const std::wstring text = (centred ? L"\t" : L"") + ToWide(panels[i].text);
             SendMessageW(Handle(), SB_SETTEXTW, i, reinterpret_cast<LPARAM>(text.c_str()));
             SetToolTip(i, ToRect(panels[i].place), panels[i].toolTip);
         }
     }
-
-    const StatusBar& bar_;
 };
 
 // A tick that falls due while the system has the thread is left out.
-class TimerControl final : public Drawn {
+class TimerControl final : public DrawnAs<Timer> {
   public:
-    TimerControl(const Timer& timer, const Look& look, HWND window)
-        : Drawn(timer, look, window, L"STATIC", 0), timer_(timer) {}
+    using DrawnAs::DrawnAs;
 
     void Apply(Aspect) override {
-        timer_.Enabled ? StartTimer(std::chrono::milliseconds(timer_.Interval)) : StopTimer();
+        model_.Enabled ? StartTimer(std::chrono::milliseconds(model_.Interval)) : StopTimer();
     }
 
   protected:
     void OnTimer() override {
-        if (look_.mayAct()) timer_.Tick();
+        if (look_.mayAct()) model_.Tick();
     }
-
-  private:
-    const Timer& timer_;
 };
 
 }  // namespace keplin::win32

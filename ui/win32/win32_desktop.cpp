@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "ui/win32/object.h"
 #include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
@@ -17,12 +18,19 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr UINT kGrain = 1;             // milliseconds, of the system's clock
 constexpr milliseconds kLateness{1};   // how late the system may wake a sleeper
 constexpr DWORD kLongestYield = 2;     // milliseconds
 constexpr DWORD kBetweenChecks = 500;  // milliseconds
 constexpr int kLongestText = 80;       // characters of a date or a time
 constexpr DWORD kLongestPath = 32768;
+
+// Whatever the program waits for from now on ends within a millisecond, until the process does.
+void WakeInTime() {
+    constexpr UINT kGrain = 1;  // milliseconds, of the system's clock
+    static const auto begin =
+        SystemCall<decltype(timeBeginPeriod)>(L"winmm.dll", "timeBeginPeriod");
+    [[maybe_unused]] static const auto begun = begin(kGrain);
+}
 
 bool WaitForEvent(DWORD mostMilliseconds) {
     return MsgWaitForMultipleObjectsEx(0, nullptr, mostMilliseconds, QS_ALLINPUT,
@@ -55,26 +63,10 @@ std::wstring FilterOf(const std::string& filter) {
     return parts;
 }
 
-SYSTEMTIME LocalTime(const FILETIME& time) {
-    SYSTEMTIME universal{};
-    SYSTEMTIME local{};
-    if (!FileTimeToSystemTime(&time, &universal) ||
-        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local)) {
-        throw std::runtime_error("no date of this calendar");
-    }
-    return local;
-}
-
 }  // namespace
 
 Win32Desktop::Win32Desktop(const MainWindow& window, WatchedLine& line, Hooks hooks)
-    : StandardDesktop(std::move(hooks)), window_(window), line_(line) {
-    timeBeginPeriod(kGrain);
-}
-
-Win32Desktop::~Win32Desktop() {
-    timeEndPeriod(kGrain);
-}
+    : StandardDesktop(std::move(hooks)), window_(window), line_(line) {}
 
 void Win32Desktop::Run() {
     for (;;) {
@@ -84,13 +76,14 @@ void Win32Desktop::Run() {
 }
 
 void Win32Desktop::YieldOnce() {
-    if (line_.TakeWait()) WaitForEvent(kLongestYield);
-    ProcessEvents();
+    WakeInTime();
+    if (!line_.TakeWait() || WaitForEvent(kLongestYield)) ProcessEvents();
 }
 
 // An update sleeps once for each line of its file, so the lateness would add up: the end of a sleep
 // is awaited awake.
 void Win32Desktop::Sleep(milliseconds duration) {
+    WakeInTime();
     const auto end = steady_clock::now() + duration;
     window_.PaintNow();
     const bool heard = window_.IsHeard();
@@ -122,15 +115,22 @@ std::optional<std::string> Win32Desktop::AskForFile(const OpenFileRequest& reque
     dialog.lpstrTitle = title.c_str();
     dialog.Flags = OFN_EXPLORER | OFN_NOCHANGEDIR | OFN_DONTADDTORECENT;
     if (request.hideReadOnly) dialog.Flags |= OFN_HIDEREADONLY;
-    if (!GetOpenFileNameW(&dialog)) return std::nullopt;
+    static const auto ask =
+        SystemCall<decltype(GetOpenFileNameW)>(L"comdlg32.dll", "GetOpenFileNameW");
+    BeginObjects();
+    if (!ask(&dialog)) return std::nullopt;
     return ToUtf8(path.c_str());
 }
 
 std::string Win32Desktop::FileDateTime(const std::string& path) {
     WIN32_FILE_ATTRIBUTE_DATA facts{};
-    if (!GetFileAttributesExW(ToWide(path).c_str(), GetFileExInfoStandard, &facts))
+    SYSTEMTIME universal{};
+    SYSTEMTIME time{};
+    if (!GetFileAttributesExW(ToWide(path).c_str(), GetFileExInfoStandard, &facts) ||
+        !FileTimeToSystemTime(&facts.ftLastWriteTime, &universal) ||
+        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &time)) {
         throw std::runtime_error("no date of " + path);
-    const SYSTEMTIME time = LocalTime(facts.ftLastWriteTime);
+    }
     std::array<wchar_t, kLongestText> date{};
     std::array<wchar_t, kLongestText> clock{};
     GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &time, nullptr, date.data(),

@@ -11,9 +11,6 @@ class Win32Desktop : public StandardDesktop {
   public:
     // `window` is the one that dialogs stand over; it and the line must outlive the desktop.
     Win32Desktop(const MainWindow& window, WatchedLine& line, Hooks hooks);
-    ~Win32Desktop() override;
-    Win32Desktop(const Win32Desktop&) = delete;
-    Win32Desktop& operator=(const Win32Desktop&) = delete;
 
     // Processes the window's events from now on, until the program ends.
     [[noreturn]] void Run();
