@@ -247,7 +247,7 @@ TEST_F(Win32Window, PanelsShareTheirBarAndShortenALongPath) {
 
 TEST_F(Win32Window, TheProgressBarShowsWhatIsDone) {
     Show(model.PicProgram);
-    const auto shown = [this] { return Send(model.ProgressBar1, PBM_GETPOS); };
+    const auto shown = [this] { return int(Send(model.ProgressBar1, PBM_GETPOS)); };
     model.ProgressBar1.Max = 1000;
     for (const int value : {500, 501, 900, 1000, 0}) {
         model.ProgressBar1.Value = static_cast<float>(value);
