@@ -207,7 +207,7 @@ TEST_F(DesktopServices, WhereTheWorkingDirectoryWasDeletedHomeStandsInForIt) {
 }
 
 TEST_F(DesktopServices, TheDesktopTellsFactsOfFilesAndAsksForOne) {
-    TestLine none;
+    TestLine<WatchedDescriptor> none;
     QtDesktop other(window, none,
                     {.openFile = [](const auto& request) { return request.title; },
                      .beforeEnd = [] { return 3; }});

@@ -10,7 +10,6 @@
 #include <fstream>
 #include <functional>
 #include <optional>
-#include <thread>
 #include <vector>
 
 #include "device/posix/posix_port.h"
@@ -132,15 +131,6 @@ TEST_F(SerialAdapter, AStuckLineEndsTheWriteAndTheNextPingLeaves) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, 2s);
     EXPECT_FALSE(port_.LineLost());
     EXPECT_NO_THROW(port_.WriteByte(kPing)) << "the rest of the text is in its way";
-}
-
-TEST_F(SerialAdapter, ALongTextThatIsTakenInPiecesArrivesWhole) {
-    const std::string text(100'000, '.');
-    std::string received;
-    std::thread reader([&] { received = far_->Receive(text.size()); });
-    EXPECT_NO_THROW(port_.WriteText(text));
-    reader.join();
-    EXPECT_EQ(received.size(), text.size());
 }
 
 TEST_F(SerialAdapter, NoticesAHangUpInEachStepOfAnExchangeAndAtRest) {

@@ -6,26 +6,16 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
-#include <chrono>
 #include <functional>
 #include <string>
-#include <utility>
 
+#include "tests/support/shown_window.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/qt_desktop.h"
 
 namespace keplin::test {
 
 using qt::QtDesktop;
-
-// A line that is given by its descriptor alone.
-struct TestLine : WatchedDescriptor {
-    [[nodiscard]] bool TakeWait() override { return std::exchange(MayWait, false); }
-    void CheckLine() noexcept override { OnCheck(); }
-
-    bool MayWait = false;
-    std::function<void()> OnCheck = [] {};
-};
 
 // Acts each time the widget is painted.
 class WhenPainted : public QObject {
@@ -43,31 +33,9 @@ class WhenPainted : public QObject {
 };
 
 // The window with its getting-started page, on the offscreen desktop.
-class QtWindow : public testing::Test {
+class QtWindow : public ShownWindow<qt::MainWindow, QtDesktop, WatchedDescriptor> {
   protected:
-    QtWindow() {
-        for (Control* hidden :
-             std::initializer_list<Control*>{&model.Shape1, &model.Shape2, &model.lblPrgm,
-                                             &model.PicSetup, &model.PicProgram}) {
-            hidden->Visible = false;
-        }
-        ShowPage(model.PicGettingStarted);
-        model.Height = 5460;
-        model.Visible = true;
-        QCoreApplication::processEvents();
-        LetButtonsBePressed();
-    }
-
-    void LetButtonsBePressed() { now += PressGuard::kPause; }
-
-    // The page as the technician finds it after a look at it.
-    void Show(Page& page) {
-        for (Page* other : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {
-            if (other != &page) other->Visible = false;
-        }
-        ShowPage(page);
-        LetButtonsBePressed();
-    }
+    QtWindow() { QCoreApplication::processEvents(); }
 
     template <typename Widget = QWidget>
     Widget* Find(const Control& control) {
@@ -120,22 +88,6 @@ class QtWindow : public testing::Test {
             QCoreApplication::sendEvent(target, &event);
         }
     }
-
-    // Processes events until the condition holds; false after five seconds.
-    template <typename Condition>
-    bool Until(Condition&& condition) {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-        while (!condition() && std::chrono::steady_clock::now() < end) {
-            desktop.YieldOnce();
-        }
-        return condition();
-    }
-
-    ISPMain model;
-    PressGuard::Moment now{};  // as the window counts, which passes over what came just now
-    qt::MainWindow window{model, [this] { return now; }};
-    TestLine line;
-    QtDesktop desktop{window, line, {}};
 };
 
 }  // namespace keplin::test

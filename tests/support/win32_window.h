@@ -3,55 +3,26 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <string>
-#include <utility>
 
+#include "tests/support/shown_window.h"
 #include "ui/win32/utf16.h"
 #include "ui/win32/win32_desktop.h"
 
 namespace keplin::test {
 
-class TestLine : public WatchedLine {
-  public:
-    [[nodiscard]] bool TakeWait() override { return std::exchange(MayWait, false); }
-    void CheckLine() noexcept override {}
-
-    bool MayWait = false;
-};
-
 // The window with its getting-started page.
-class Win32Window : public testing::Test {
+class Win32Window : public ShownWindow<win32::MainWindow, win32::Win32Desktop, WatchedLine> {
   protected:
     Win32Window() {
-        for (Control* hidden :
-             std::initializer_list<Control*>{&model.Shape1, &model.Shape2, &model.lblPrgm,
-                                             &model.PicSetup, &model.PicProgram}) {
-            hidden->Visible = false;
-        }
-        ShowPage(model.PicGettingStarted);
-        model.Height = kShownHeight;
-        model.Visible = true;
         SetActiveWindow(window.Handle());
         Settle();
-        LetButtonsBePressed();
     }
-
-    void LetButtonsBePressed() { now += PressGuard::kPause; }
 
     // All events that are there, and those that come of them.
     void Settle() {
         for (int i = 0; i < 5; ++i)
             desktop.YieldOnce();
-    }
-
-    // The page as the technician finds it after a look at it.
-    void Show(Page& page) {
-        for (Page* other : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {
-            if (other != &page) other->Visible = false;
-        }
-        ShowPage(page);
-        LetButtonsBePressed();
     }
 
     LRESULT Send(const Control& control, UINT message, WPARAM first = 0, LPARAM second = 0) {
@@ -97,21 +68,6 @@ class Win32Window : public testing::Test {
         Send(control, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
         Settle();
     }
-
-    // Processes events until the condition holds; false after five seconds.
-    template <typename Condition>
-    bool Until(Condition&& condition) {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-        while (!condition() && std::chrono::steady_clock::now() < end)
-            desktop.YieldOnce();
-        return condition();
-    }
-
-    ISPMain model;
-    PressGuard::Moment now{};  // as the window counts, which passes over what came just now
-    win32::MainWindow window{model, [this] { return now; }};
-    TestLine line;
-    win32::Win32Desktop desktop{window, line, {}};
 };
 
 }  // namespace keplin::test

@@ -9,33 +9,11 @@
 
 #include "device/win32/port_list.h"
 #include "device/win32/win32_port.h"
-#include "platform/standard_desktop.h"
-#include "session/session.h"
 
 namespace keplin::test {
 namespace {
 
 using namespace std::chrono_literals;
-
-// On the real clock; pauses are a tenth as long, but not what a ping's answer is given.
-class PlainDesktop : public StandardDesktop {
-  public:
-    explicit PlainDesktop(WatchedLine& line)
-        : StandardDesktop({.openFile = [](const auto&) { return KEPLIN_SAMPLE; }}), line_(line) {}
-    void YieldOnce() override {
-        if (line_.TakeWait()) std::this_thread::sleep_for(2ms);
-    }
-    void Sleep(std::chrono::milliseconds duration) override {
-        std::this_thread::sleep_for(duration == 50ms ? duration : duration / 10);
-    }
-    std::string FileDateTime(const std::string&) override { return "today"; }
-    void KeepAwake(bool) override {}
-
-  private:
-    std::optional<std::string> AskForFile(const OpenFileRequest&) override { return {}; }
-
-    WatchedLine& line_;
-};
 
 struct ComPort : testing::Test {
     bool Open(std::int32_t number, std::int32_t speed = 38400) {
@@ -151,21 +129,6 @@ TEST_F(ComPort, AStuckLineEndsTheWriteAndIsClosedPromptly) {
     const auto taken = std::chrono::steady_clock::now() - start;
     EXPECT_GT(taken, 400ms);
     EXPECT_LT(taken, 2s);
-}
-
-// The controller's memory is compared at its own end.
-TEST_F(ComPort, CarriesAWholeUpdate) {
-    ISPMain window;
-    Win32Port line(ComputerPorts);
-    PlainDesktop desktop(line);
-    Session session(window, line, desktop);
-    session.Main();
-    window.Next_1.Press();
-    window.cmdPortTest.Press();
-    EXPECT_EQ(window.lblResults.Caption.Get(), " Port 2 Ready.  Click NEXT to continue.");
-    window.Next_2.Press();
-    window.Command1.Press();
-    EXPECT_EQ(window.Frame2.Caption.Get(), "Update Complete");
 }
 
 }  // namespace
