@@ -20,8 +20,8 @@ TEST_F(QtWindow, EveryTextIsWholeAtEveryStage) {
     const int full = qRound(9330 * window.logicalDpiX() / 1440.0);
     EXPECT_LE(window.height() + 40, screen.height());  // room for a title bar
     EXPECT_EQ(window.width(), std::min(full, screen.width() - 4));
-    const int middle = PaintedInk(*Find<QLabel>(model.Label8)).center().x();
-    EXPECT_NEAR(middle, Find(model.Label8)->width() / 2, 2);
+    const QPoint middle = PaintedInk(*Find<QLabel>(model.Label8)).center();
+    EXPECT_NEAR(middle.x(), Find(model.Label8)->rect().center().x(), 2);
     const QColor bevel = window.palette().window().color().darker(160);
     EXPECT_TRUE(IsPainted(model.StatusBar1.Panels(2), bevel, 1));
     const std::vector<std::string> none;

@@ -51,6 +51,7 @@ std::vector<Rect<double>> TextLayoutMeasure::LineInks(const std::string& text, c
     QTextLayout layout(drawn, ToQt(font));
     LayOut(layout, alignment, width);
     std::vector<Rect<double>> inks;
+    inks.reserve(static_cast<std::size_t>(layout.lineCount()));
     for (int i = 0; i < layout.lineCount(); ++i)
         inks.push_back(InkOf(layout.lineAt(i), drawn, layout.font()));
     return inks;
