@@ -50,9 +50,10 @@ TextFit::TextFit(const std::vector<const Control*>& controls, Scale scale,
 // To find a family under another name takes a system a while: each is asked for only when its turn
 // comes.
 TextFont TextFit::Choose() const {
-    for (double points = kLargest; points >= kSmallest; points -= kStep) {
+    constexpr int kSteps = static_cast<int>((kLargest - kSmallest) / kStep);
+    for (int step = 0; step <= kSteps; ++step) {
         for (const std::string& family : Families(measure_)) {
-            const TextFont tried{family, points};
+            TextFont tried{family, kLargest - step * kStep};
             if (measure_.HasFamily(family) && EveryTextFits(tried)) return tried;
         }
     }
