@@ -17,7 +17,7 @@ constexpr auto kAnswerTime = 50ms;
 constexpr std::int32_t kNoByte = -1;
 
 // A yield takes milliseconds, unless the technician holds the window: nobody listened meanwhile.
-constexpr auto kLongestYield = 1s;
+constexpr auto kMostOfAYield = 1s;
 constexpr std::int32_t kLineFeed = 10;
 
 constexpr std::string_view kCalibration = ":010000020CF1";
@@ -37,7 +37,7 @@ class ReplyLine {
     void Take(std::int32_t byte) {
         const auto sinceLook = desktop_.Now() - lastLook_;
         lastLook_ += sinceLook;
-        const auto listened = std::min<std::chrono::milliseconds>(sinceLook, kLongestYield);
+        const auto listened = std::min<std::chrono::milliseconds>(sinceLook, kMostOfAYield);
         silence_ += listened;
         listened_ += listened;
         if (byte == kNoByte) return;

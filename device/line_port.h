@@ -27,24 +27,24 @@ class LinePort : public SerialPort, public Watched {
     // Means nothing to these adapters.
     void Setting47(std::int32_t) override {}
 
-    // 1 when the port is open now, 0 when it is not: see OpenLine. Closes the port that was open
-    // before.
+    // 1 when the port is open now, 0 when it is not: see OpenLine, also for how long it may take.
+    // Closes the port that was open before.
     std::int32_t Open() override {
         Close();
         const std::string& path = paths_.Choose(portNumber_);
         return lineSpeed_ == kBitsPerSecond && Reopen(path) ? 1 : 0;
     }
     // Always 0. Drops what was written and has not left yet; takes 0.5 s at most, whatever hangs on
-    // the line.
+    // the line, as long as the system has a timer or a thread to give.
     std::int32_t Close() override {
         CloseLine();
         lost_ = false;
         return 0;
     }
 
-    // This and WriteText end within 500 ms. They throw PortError when the port is closed, the line
-    // is lost or the device does not take the bytes in that time. What it has not taken by then
-    // never leaves.
+    // This and WriteText end within 500 ms, and a Close where the line is lost. They throw
+    // PortError when the port is closed, the line is lost or the device does not take the bytes in
+    // that time. What it has not taken by then never leaves.
     void WriteByte(std::uint8_t byte) override {
         const char character = static_cast<char>(byte);
         WriteText({&character, 1});

@@ -9,8 +9,8 @@ class WatchedLine {
     virtual ~WatchedLine() = default;
 
     // Whether this yield may wait for a byte. True once after each step that leaves none to read:
-    // an opening, a discard, a read that found none; on a line whose byte ends the wait, a write
-    // too.
+    // an opening, a discard, a read that found none. A write allows it too where the line's byte
+    // ends the wait, and takes it back where it does not.
     [[nodiscard]] virtual bool TakeWait() = 0;
 
     // Notices a line that hung up also while nobody reads it, and lets go of it.

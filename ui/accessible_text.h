@@ -14,9 +14,9 @@ struct AccessibleText {
     std::string value;        // of a progress bar: how far it is, in words
 };
 
-// As the control stands now; to be asked again when its Caption or Value changes. A button has no
-// description but that which Drawing::Describe gives it. The window, whose title says what it is,
-// pages, shapes, bars around panels and timers have nothing.
+// As the control stands now; to be asked again when its Caption, Text or Value changes. A button
+// has no description but that which Drawing::Describe gives it. The window, whose title says what
+// it is, pages, shapes, bars around panels and timers have nothing.
 AccessibleText AccessibleTextOf(const Control& control);
 
 // A step of a progress bar that comes sooner after the one told last is not worth a word.

@@ -3,8 +3,9 @@
 // file dialog) is platform/desktop.h, and app/program.h puts the two together.
 //
 // A drawing has one object for each control of the model, made in the model's order: a later
-// control lies above an earlier one and stands inside its container. It measures texts, paints, and
-// hands back what the technician and the timers do. It decides nothing:
+// control lies above an earlier one and stands inside its container; a status bar may draw its
+// panels itself. It measures texts, paints, and hands back what the technician and the timers do.
+// It decides nothing:
 //
 //   Follower            owns the procedure: calls the drawing at each change, takes what comes back
 //   Scale               where everything stands; FittingDotsPerInch at how many dots per inch,
@@ -13,6 +14,7 @@
 //   ArrangePanels       what the panels of a status bar show, where, with which tool tip
 //   Throttle            how often a changing bar or shape is shown
 //   AccessibleTextOf    what a screen reader is told of each control
+//   ProgressAfter       how an update stands, for what shows it outside the window
 //   ui/page_look.h      colours and insets of what is painted on a page
 //
 // The model outlives its drawing. Everything happens on one thread. Texts are UTF-8, but a file's

@@ -34,6 +34,7 @@ void FocusKeeper::Press(const Button& button) {
     pressed_ = &button;
     button.Press();
     Settle();
+    beforePress_.clear();
     pressed_ = nullptr;
 }
 

@@ -1,4 +1,4 @@
-// Which button has the keyboard focus: always one that can be pressed, and never one by accident
+// Which button has the keyboard focus: one that can be pressed or none, and never one by accident
 // while a press is still at work.
 #pragma once
 
@@ -26,7 +26,7 @@ class FocusKeeper {
 
     // Presses the button for the technician. Until all that the press does is done, a focus that
     // is lost stays with no button; then a button that can be pressed only since gets it, or else
-    // the pressed one again.
+    // the pressed one again, another on the page, or one beside the pages.
     void Press(const Button& button);
 
   private:
@@ -39,7 +39,7 @@ class FocusKeeper {
 
     Drawing& drawing_;
     std::vector<const Button*> buttons_;      // in tab order
-    std::vector<const Button*> beforePress_;  // those that could be pressed before the last press
+    std::vector<const Button*> beforePress_;  // those that could be pressed before that press
     const Button* pressed_ = nullptr;         // by the outermost press at work
     const Button* provisional_ = nullptr;     // has the focus only until the page has a button
 };

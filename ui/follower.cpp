@@ -63,8 +63,8 @@ KeyEffect Follower::KeyDown(const Button& button, PressKey key, bool repeated) c
 }
 
 // A request that waited for a pause to end, or came just after it, is passed over like a press of
-// Close. A desktop that logs out asks the same way; it is not held up, and ends the program by
-// itself where the model does not.
+// Close. Some desktops that log out ask the same way; they are not held up, and end the program by
+// themselves where the model does not.
 void Follower::CloseAsked() {
     if (guard_.Takes(model_.cmdExit)) model_.RequestClose();
 }

@@ -32,8 +32,8 @@ class Follower : public Observer {
 
     [[nodiscard]] const std::vector<const Button*>& TabOrder() const { return focus_.TabOrder(); }
 
-    // Every control is made, and the window still hidden: gives it its title and its size, and
-    // follows the model from here on.
+    // Every control is made, and the model's window still hidden: gives the title and the size,
+    // puts the status bars in their place, and follows the model from here on.
     void Start();
 
     void Changed(const Control& control, const PropertyBase& property) override;
@@ -49,7 +49,8 @@ class Follower : public Observer {
     // press does is done, which may be an update.
     void Press(const Button& button) { focus_.Press(button); }
 
-    // The window is asked to close: by its title bar, the task bar or the desktop that ends.
+    // The window is asked to close: by its title bar, the task bar, or a desktop that ends and asks
+    // like them.
     // Whether it closes is the model's to decide; the drawing itself does not close it.
     void CloseAsked();
 

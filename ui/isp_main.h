@@ -67,10 +67,10 @@ class ISPMain : public Form {
 
     // On the programming page.
     Frame Frame2;
-    std::array<Label, 4> lblPrg;
+    std::array<Label, 4> lblPrg;  // the instructions
     Button Command1;
     Label Label10;
-    Label lblPrgm;
+    Label lblPrgm;  // the stage of the update
     ProgressBar ProgressBar1;
 
     // The activity block travels to the left.

@@ -61,7 +61,7 @@ class LabelControl final : public DrawnAs<Label, Painted> {
     using DrawnAs::DrawnAs;
 
     void Apply(Aspect aspect) override {
-        Painted::Apply(aspect);
+        Drawn::Apply(aspect);
         Refit();
     }
 
@@ -106,7 +106,7 @@ class ShapeControl final : public DrawnAs<Shape, Painted> {
 
     void Apply(Aspect aspect) override {
         if (aspect != Aspect::Left) {
-            Painted::Apply(aspect);
+            Drawn::Apply(aspect);
         } else if (const auto pause = throttle_.Changed()) {
             pause->count() == 0 ? OnTimer() : StartTimer(*pause);
         }

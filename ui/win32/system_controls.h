@@ -43,7 +43,7 @@ class ButtonControl final : public DrawnAs<Button> {
                 look_.focused = &model_;
                 look_.follower.FocusCame(model_);
                 break;
-            case kPress:
+            case kPress:  // by its container: see SystemWindow
                 if (look_.mayAct()) look_.follower.Press(model_);
                 return 0;
             default:

@@ -19,7 +19,7 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 constexpr milliseconds kLateness{1};   // how late the system may wake a sleeper
-constexpr DWORD kLongestYield = 2;     // milliseconds
+constexpr DWORD kLongestWait = 2;      // milliseconds
 constexpr DWORD kBetweenChecks = 500;  // milliseconds
 constexpr int kLongestText = 80;       // characters of a date or a time
 constexpr DWORD kLongestPath = 32768;
@@ -77,7 +77,7 @@ void Win32Desktop::Run() {
 
 void Win32Desktop::YieldOnce() {
     WakeInTime();
-    if (!line_.TakeWait() || WaitForEvent(kLongestYield)) ProcessEvents();
+    if (!line_.TakeWait() || WaitForEvent(kLongestWait)) ProcessEvents();
 }
 
 // An update sleeps once for each line of its file, so the lateness would add up: the end of a sleep
