@@ -52,8 +52,8 @@ void Drawn::SetPlace(const PixelRect& place, UINT flags) const {
 
 void Drawn::SetToolTip(std::size_t part, const RECT& where, const std::string& text) {
     constexpr int kWidest = 600;  // pixels, from which on a text wraps
-    if (tips_ == nullptr && text.empty()) return;
     if (tips_ == nullptr) {
+        if (text.empty()) return;
         tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX, 0,
                                 0, 0, 0, Handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
         SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, kWidest);
@@ -68,6 +68,11 @@ void Drawn::SetToolTip(std::size_t part, const RECT& where, const std::string& t
 
 void Drawn::StartTimer(std::chrono::milliseconds pause) const {
     SetTimer(Handle(), kTimer, static_cast<UINT>(pause.count()), nullptr);
+}
+
+void Drawn::ShowSoon(Throttle& throttle) {
+    const auto pause = throttle.Changed();
+    if (pause) pause->count() == 0 ? OnTimer() : StartTimer(*pause);
 }
 
 LRESULT Drawn::OnMessage(UINT message, WPARAM first, LPARAM second) {

@@ -8,6 +8,7 @@
 #include "ui/accessible_text.h"
 #include "ui/follower.h"
 #include "ui/text_fit.h"
+#include "ui/throttle.h"
 #include "ui/win32/fonts.h"
 #include "ui/win32/system_window.h"
 
@@ -56,6 +57,8 @@ class Drawn : public SystemWindow {
     // OnTimer comes again and again after that time; the system knows none shorter than 10 ms.
     void StartTimer(std::chrono::milliseconds pause) const;
     void StopTimer() const { KillTimer(Handle(), kTimer); }
+    // OnTimer comes once the throttle lets the change be shown, which may be now.
+    void ShowSoon(Throttle& throttle);
 
     virtual void OnTimer() {}
     // By which others find the control, and which the system's control writes.

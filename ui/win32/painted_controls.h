@@ -2,7 +2,6 @@
 #pragma once
 
 #include "ui/page_look.h"
-#include "ui/throttle.h"
 #include "ui/win32/drawn.h"
 
 namespace keplin::win32 {
@@ -105,11 +104,7 @@ class ShapeControl final : public DrawnAs<Shape, Painted> {
     using DrawnAs::DrawnAs;
 
     void Apply(Aspect aspect) override {
-        if (aspect != Aspect::Left) {
-            Drawn::Apply(aspect);
-        } else if (const auto pause = throttle_.Changed()) {
-            pause->count() == 0 ? OnTimer() : StartTimer(*pause);
-        }
+        aspect == Aspect::Left ? ShowSoon(throttle_) : Drawn::Apply(aspect);
     }
 
   protected:

@@ -9,7 +9,6 @@
 #include <algorithm>
 
 #include "ui/status_panels.h"
-#include "ui/throttle.h"
 #include "ui/win32/drawn.h"
 #include "ui/win32/utf16.h"
 
@@ -77,9 +76,7 @@ class ProgressBarControl final : public DrawnAs<ProgressBar> {
         Drawn::Apply(aspect);
         if (aspect == Aspect::Visible) OnTimer();
         if (aspect == Aspect::Max) StartTimer(Throttle::kBar);  // the value that goes with it first
-        if (aspect != Aspect::Value) return;
-        const auto pause = throttle_.Changed();
-        if (pause) pause->count() == 0 ? OnTimer() : StartTimer(*pause);
+        if (aspect == Aspect::Value) ShowSoon(throttle_);
     }
 
   protected:
