@@ -21,7 +21,9 @@ def machine():
 def priority():
     """The nice value, or that of the session where the system schedules whole sessions."""
     group = Path("/proc/self/autogroup")
-    session = int(group.read_text().split()[-1]) if group.exists() else 0
+    # Empty for a process that belongs to none.
+    words = group.read_text().split() if group.exists() else []
+    session = int(words[-1]) if words else 0
     return session or os.nice(0)
 
 
