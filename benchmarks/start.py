@@ -4,6 +4,7 @@ import re
 import shutil
 import statistics
 import subprocess
+import sys
 import time
 from pathlib import Path
 
@@ -18,7 +19,7 @@ STEPS = {
     "ld.so, before main": r"_dl_start_user|_dl_start",
     "QApplication::QApplication: the display, the style": r"QApplication::QApplication\(",
     "QFontDatabase::families: the system's fonts": r"QFontDatabase::families\(",
-    "keplin::qt::Fits: laying out each text, to choose the font": r"keplin::qt::Fits\(",
+    "keplin::TextFit::Choose: laying out each text": r"keplin::TextFit::Choose\(",
     "keplin::qt::LabelWidget::paintEvent: the texts of the page": r"LabelWidget::paintEvent\(",
     "QPushButton::paintEvent": r"QPushButton::paintEvent\(",
     "keplin::qt::FrameWidget::paintEvent": r"FrameWidget::paintEvent\(",
@@ -27,7 +28,7 @@ STEPS = {
     "QXcbWindow::setWindowIcon": r":QXcbWindow::setWindowIcon\(",
 }
 # Begins a second later, which under valgrind is too early.
-LATER = r"drawing_threads.*::UseAll\("
+LATER = r"keplin::qt::DrawingThreads::Keep\("
 
 
 def one_start(command, environment):
@@ -56,10 +57,13 @@ def instructions(command, work, environment):
     counts = [(int(count.replace(",", "")), name) for count, name in
               re.findall(r"^ *([\d,]+) \( *[\d.]+%\) +(\S.*)$", listing, re.MULTILINE)]
 
-    def of(pattern):
-        return max((count for count, name in counts
-                    if re.search(pattern, name) and not name.startswith("=>")), default=0)
-    return of("PROGRAM TOTALS") - of(LATER), of
+    def of(pattern, absent=None):
+        found = [count for count, name in counts
+                 if re.search(pattern, name) and not name.startswith("=>")] or [absent]
+        if found == [None]:
+            sys.exit(f"no function matches {pattern}")
+        return max(found)
+    return of("PROGRAM TOTALS") - of(LATER, absent=0), of
 
 
 def profile_text(our, empty, worded, work, environment):

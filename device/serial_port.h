@@ -40,10 +40,10 @@ class SerialPort {
     // 57: sends the characters of a text, one byte each, in order, adding nothing.
     virtual void WriteText(std::string_view text) = 0;
 
-    // The line is gone (an unplugged adapter, a far end that hung up): no byte can ever come.
+    // The line hung up (an unplugged adapter, a far end that closed): no byte can ever come.
     [[nodiscard]] virtual bool LineLost() const = 0;
-    // Opens a line that is gone again: the same device with the settings it had. What hangs on it
-    // then need not be what hung on it before, so this is not for the midst of an update.
+    // Opens a lost line anew: the same device with the settings it had. What hangs on it then need
+    // not be what hung on it before, so this is not for the midst of an update.
     virtual void ReopenLostLine() = 0;
 };
 

@@ -25,8 +25,8 @@ class Desktop {
     // the serial line is idle, so that waiting costs no processor time.
     virtual void YieldOnce() = 0;
 
-    // Blocks for that long, with all that was set on the screen; no window event is processed
-    // meanwhile.
+    // Blocks for that long, with all that was set on the screen, but for what changes too often to
+    // be shown each time; no window event is processed meanwhile.
     virtual void Sleep(std::chrono::milliseconds duration) = 0;
 
     // Time since some fixed moment; never goes back, whatever happens to the wall clock.

@@ -1,4 +1,5 @@
-// How a procedure treats a step that fails: it goes on with the next one.
+// How a procedure treats a step that fails: it goes on with the next one. On the line what counts
+// is what the controller answers, and the rest is a favour.
 #pragma once
 
 #include <exception>
@@ -10,7 +11,7 @@ template <typename Step>
 void PassOver(Step&& step) {
     try {
         step();
-    } catch (const std::exception&) {  // what counts is what the controller answers
+    } catch (const std::exception&) {
     }
 }
 

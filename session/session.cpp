@@ -112,7 +112,7 @@ void Session::cmdExit_Click() {
     Form_Unload();
 }
 
-// A tick that falls due while another one yields waits for the next: ticks never nest.
+// A tick that falls due while another one yields is left out: ticks never nest.
 void Session::Timer1_Tick() {
     Once(ticking_, [&] { Timer1_Timer(window_, desktop_); });
 }

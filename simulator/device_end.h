@@ -10,7 +10,7 @@ namespace keplin::simulator {
 
 struct SentByte {
     std::uint8_t value = 0;
-    std::chrono::microseconds pause{0};  // the line rests that long before the byte; never below 0
+    std::chrono::microseconds rest{0};  // how long the line rests before the byte; never below 0
 };
 
 class DeviceEnd {
@@ -24,10 +24,10 @@ class DeviceEnd {
     // without being asked; asked again when that has gone out.
     virtual void LineIdle([[maybe_unused]] std::vector<SentByte>& answer) {}
 
-    // The connection is gone; the line closes when it sees this.
+    // The connection is gone; the line hangs up when it sees this.
     [[nodiscard]] virtual bool HungUp() const { return false; }
 
-    // The line saw HungUp() and has closed: all bytes under way, in both directions, are lost.
+    // The line saw HungUp() and is gone: all bytes under way, in both directions, are lost.
     virtual void LineClosed() {}
 };
 

@@ -63,7 +63,7 @@ void DropLineFeed(Reply& reply, Random& /*random*/) {
 
 void SlowDown(Reply& reply, Random& random) {
     for (SentByte& byte : reply) {
-        byte.pause = milliseconds{100 + Below(random, 301)};
+        byte.rest = milliseconds{100 + Below(random, 301)};
     }
 }
 
@@ -73,7 +73,7 @@ void AddNoise(Reply& reply, Random& random) {
     }
 }
 
-constexpr std::array<Fault, 15> kFaults{{
+constexpr auto kFaults = std::to_array<Fault>({
     {FaultKind::Silence, "silence", "no answer", Silence},
     {FaultKind::ByteDropped, "byte-dropped", "one byte of the reply is lost", DropByte},
     {FaultKind::BitFlipped, "bit-flipped", "one bit of the reply is turned over", FlipBit},
@@ -88,12 +88,12 @@ constexpr std::array<Fault, 15> kFaults{{
     {FaultKind::Noise, "noise", "stray bytes follow right behind the reply", AddNoise},
     {FaultKind::Refused, "refused", "the record is not obeyed, and a letter replaces the \".\"",
      Keep},
-    {FaultKind::HangUp, "hang-up", "the line closes", Silence},
+    {FaultKind::HangUp, "hang-up", "the line hangs up", Silence},
     {FaultKind::PowerLost, "power-lost", "power is lost and comes back; an erase did not happen",
      Silence},
     {FaultKind::PowerLostHalf, "power-lost-half",
      "power is lost and comes back; an erase was done by half", Silence},
-}};
+});
 
 static_assert([] {
     for (std::size_t i = 0; i < kFaults.size(); ++i) {

@@ -5,7 +5,7 @@
 namespace keplin::simulator {
 
 void Lane::Put(SentByte byte, Time now) {
-    if (Size() == 0) due_ = now + byte.pause + kByteTime;
+    if (Size() == 0) due_ = now + byte.rest + kByteTime;
     bytes_.push_back(byte);
 }
 
@@ -14,7 +14,7 @@ std::uint8_t Lane::Take() {
     if (Size() == 0) {
         Clear();
     } else {
-        due_ += bytes_[first_].pause + kByteTime;
+        due_ += bytes_[first_].rest + kByteTime;
     }
     return value;
 }

@@ -1,5 +1,5 @@
-// The kinds of control on the window, each as plain data with its events. A drawing makes one
-// widget for each, calls Tick when a timer acts, and hands what the technician does to its
+// The kinds of control on the window, each as plain data with its events. A drawing shows each of
+// them, calls Tick when a timer acts, and hands what the technician does to its
 // Follower.
 #pragma once
 

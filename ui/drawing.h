@@ -13,7 +13,9 @@
 //   TextFit             which font a text is written in, and where in its label
 //   ArrangePanels       what the panels of a status bar show, where, with which tool tip
 //   Throttle            how often a changing bar or shape is shown
-//   AccessibleTextOf    what a screen reader is told of each control
+//   TextMeasure         what TextFit asks of the drawing: how large a text becomes
+//   AccessibleTextOf    what a screen reader is told of each control, and kBetweenSpokenSteps how
+//                       often of a bar's steps
 //   ProgressAfter       how an update stands, for what shows it outside the window
 //   ui/page_look.h      colours and insets of what is painted on a page
 //
@@ -48,8 +50,9 @@ class Drawing {
     // only moved: a width that changed with the rounding would shimmer.
     //
     // For a progress bar Min and Max show nothing by themselves, but together with the Value that
-    // is set next: a new range around an old value is no progress. Visible shows at once where it
-    // stands. Its tool tip is DoneText.
+    // is set next: a new range around an old value is no progress. Where that Value is the old one
+    // no call comes; what stands is right the next time that the bar is shown. Visible shows at
+    // once where it stands. Its tool tip is DoneText.
     virtual void Apply(const Control& control, Aspect aspect) = 0;
 
     // A neighbour of the label came or went: its TextFit::FontOf may be another one now. Apply does
@@ -78,7 +81,8 @@ class Drawing {
     // announced as a change.
     virtual void Describe(const Button& button, const std::string& news) = 0;
 
-    // The screen reader speaks the text now. The button has its focus.
+    // The screen reader speaks the text now. Its focus is on the button, where it stays while the
+    // window itself has the keyboard's: a drawing does not tell of the window's.
     virtual void Announce(const Button& button, const std::string& news) = 0;
 };
 
