@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <stdexcept>
+#include <utility>
 
 #include "platform/int16.h"
 #include "platform/path.h"
@@ -23,9 +24,9 @@ std::string Hex(std::uint64_t number) {
 }
 
 std::int32_t Add(std::int32_t total, std::int16_t sum) {
-    std::int32_t result = 0;
-    if (__builtin_add_overflow(total, sum, &result)) throw std::overflow_error("32 bits");
-    return result;
+    const std::int64_t result = std::int64_t{total} + sum;
+    if (!std::in_range<std::int32_t>(result)) throw std::overflow_error("32 bits");
+    return static_cast<std::int32_t>(result);
 }
 
 }  // namespace
