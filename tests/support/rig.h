@@ -2,13 +2,9 @@
 // other end a simulated controller stands.
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include "session/session.h"
 #include "simulator/loader.h"
 #include "tests/support/temporary_file.h"
-#include "tests/support/virtual_desktop.h"
 #include "tests/support/virtual_port.h"
 
 namespace keplin::test {
@@ -30,6 +26,11 @@ struct Rig : VirtualScreen {
         window.cmdPortTest.Press();
         desktop.Answer = path;
         window.Next_2.Press();
+    }
+    // Whether the window then says that the update is complete.
+    bool Update() {
+        window.Command1.Press();
+        return window.UpdateComplete();
     }
 
     simulator::Loader loader;

@@ -2,15 +2,8 @@
 // real line's pace.
 #pragma once
 
-#include <algorithm>
-#include <string>
-#include <utility>
-#include <vector>
-
 #include "device/serial_port.h"
-#include "simulator/wire.h"
-#include "tests/support/trace.h"
-#include "tests/support/virtual_time.h"
+#include "tests/support/virtual_desktop.h"
 
 namespace keplin::test {
 
