@@ -184,15 +184,14 @@ TEST_F(SerialAdapter, StaysAwayFromAPortThatARunningProcessHasLocked) {
     if (ended == 0) _exit(0);
     waitpid(ended, nullptr, 0);
     const std::string bytes(reinterpret_cast<const char*>(&self), sizeof self);
-    const std::string text = std::to_string(self) + " terminal user\n";
-    const std::vector<std::string> owners{
-        std::to_string(ended) + "\n", "", "0\n", "-1\n", "no number", text, bytes};
-    for (const std::string& owner : owners) {
-        std::ofstream(lock, std::ios::binary) << owner;
-        EXPECT_EQ(OpenAnother(device_, folder_), owner == text || owner == bytes ? 0 : 1) << owner;
-    }
-    std::ofstream(lock) << "         1\n";
-    EXPECT_EQ(OpenAnother(device_, folder_), 0);
+    const auto expect = [&](int status, const std::vector<std::string>& owners) {
+        for (const std::string& owner : owners) {
+            std::ofstream(lock, std::ios::binary) << owner;
+            EXPECT_EQ(OpenAnother(device_, folder_), status) << owner;
+        }
+    };
+    expect(1, {std::to_string(ended) + "\n", "", "0\n", "-1\n", "no number"});
+    expect(0, {bytes, std::to_string(self) + " terminal user\n", "         1\n"});
     EXPECT_TRUE(getuid() != 0 || OpenAsNobody(device_, folder_) == 0) << "another user's process";
     fs::remove(lock);
     ASSERT_EQ(mkfifo(lock.c_str(), 0600), 0);

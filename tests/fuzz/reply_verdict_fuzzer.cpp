@@ -51,6 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     screen.time.LongestWait = std::chrono::seconds(1);
     FixedReply device(record.size(), reply);
     keplin::test::VirtualPort port(device, screen.trace, screen.time);
+    port.LineSpeed(38400);
     port.PortNumber(port.kControllerPort);
     port.Open();
     keplin::DeviceExchange controller(port, screen.desktop);

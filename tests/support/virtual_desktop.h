@@ -3,13 +3,7 @@
 #pragma once
 
 #include <algorithm>
-#include <chrono>
 #include <filesystem>
-#include <functional>
-#include <optional>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "platform/desktop.h"
 #include "platform/path.h"
