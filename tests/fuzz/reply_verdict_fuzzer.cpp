@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     screen.trace.Recording = false;
     screen.time.LongestWait = std::chrono::seconds(1);
     FixedReply device(record.size(), reply);
-    keplin::test::VirtualPort port(device, screen.trace, screen.time);
+    keplin::test::VirtualPort port(device, screen);
     port.LineSpeed(38400);
     port.PortNumber(port.kControllerPort);
     port.Open();

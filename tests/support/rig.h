@@ -16,7 +16,7 @@ inline constexpr std::string_view kSmallFile =
 struct Rig : VirtualScreen {
     // `device` is what the wire ends at, in place of the rig's own loader.
     explicit Rig(simulator::DeviceEnd* device = nullptr)
-        : port(device != nullptr ? *device : loader, trace, time) {
+        : port(device != nullptr ? *device : loader, *this) {
         session.Main();
     }
 

@@ -13,24 +13,23 @@ class VirtualPort : public LinePort<WatchedLine> {
     // The controller is plugged in at port 2; port 1 opens and is silent, 3 and 4 do not exist.
     static constexpr std::int32_t kControllerPort = 2;
 
-    VirtualPort(simulator::DeviceEnd& device, Trace& trace, VirtualTime& time)
+    VirtualPort(simulator::DeviceEnd& device, VirtualScreen& screen)
         : LinePort([] {
               return std::vector<std::string>{"silent", kController};
           }),
           wire_(device),
-          trace_(trace),
-          time_(time) {}
+          screen_(screen) {}
 
     std::int32_t ReadByte() override {
-        trace_.Add("ReadByte");
-        const auto byte = Connected() ? wire_.ReadAtHost(time_.Now) : std::nullopt;
+        screen_.trace.Add("ReadByte");
+        const auto byte = Connected() ? wire_.ReadAtHost(screen_.time.Now) : std::nullopt;
         CheckLine();
-        if (!byte) time_.ReadNothing(&wire_);
+        if (!byte) screen_.time.ReadNothing(&wire_);
         return byte ? *byte : -1;
     }
     void WriteText(std::string_view text) override {
         RequireOpen();
-        trace_.Add(text == "U" ? "WriteByte 85" : "WriteText " + std::string(text));
+        screen_.trace.Add(text == "U" ? "WriteByte 85" : "WriteText " + std::string(text));
         if (!Connected()) return;
         std::string leaving = std::exchange(kept_, "").append(text);
         if (Sent.size() == keptTransmission_) {
@@ -38,11 +37,11 @@ class VirtualPort : public LinePort<WatchedLine> {
             leaving.resize(leaving.size() - kept_.size());
         }
         const auto* bytes = reinterpret_cast<const std::uint8_t*>(leaving.data());
-        wire_.HostSends({bytes, leaving.size()}, time_.Now);
+        wire_.HostSends({bytes, leaving.size()}, screen_.time.Now);
         Sent.emplace_back(text);
     }
     void DiscardInput() override {
-        if (Connected()) wire_.DropArrived(time_.Now);
+        if (Connected()) wire_.DropArrived(screen_.time.Now);
         CheckLine();
     }
     void CheckLine() noexcept override {
@@ -58,7 +57,7 @@ class VirtualPort : public LinePort<WatchedLine> {
     [[nodiscard]] bool KeepsBytes() const { return !kept_.empty(); }
 
     // Lets what is still on the wire arrive, as far as it is due.
-    void Settle() { wire_.Advance(time_.Now); }
+    void Settle() { wire_.Advance(screen_.time.Now); }
 
     std::vector<std::string> Sent;  // every transmission to the controller, in order
 
@@ -77,8 +76,7 @@ class VirtualPort : public LinePort<WatchedLine> {
     [[nodiscard]] bool Connected() const { return open_ == kController; }
 
     simulator::Wire wire_;
-    Trace& trace_;
-    VirtualTime& time_;
+    VirtualScreen& screen_;
     std::string open_;  // empty: none
     std::size_t keptTransmission_ = std::string::npos;
     std::size_t keptFrom_ = 0;
