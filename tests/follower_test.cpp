@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <utility>
 
 namespace keplin::test {
 namespace {
@@ -71,6 +70,10 @@ class Followers : public testing::Test {
     [[nodiscard]] std::string Focused() const {
         return drawing.focused == nullptr ? "" : drawing.focused->Name;
     }
+    std::string FocusedAfter(Property<bool>& change, bool value) {
+        change = value;
+        return Focused();
+    }
     // On the button that has the focus.
     void Enter() {
         if (drawing.focused == nullptr) return;
@@ -86,21 +89,16 @@ class Followers : public testing::Test {
 TEST_F(Followers, TheFocusGoesToAButtonThatCanBePressed) {
     EXPECT_EQ(Focused(), "Next_1");
     drawing.Focus(nullptr);
-    model.PicGettingStarted.Visible = false;
-    EXPECT_EQ(Focused(), "cmdExit");
+    EXPECT_EQ(FocusedAfter(model.PicGettingStarted.Visible, false), "cmdExit");
     model.Next_2.Enabled = false;
     Show(model.PicSetup);
     EXPECT_EQ(Focused(), "cmdPortTest");
-    model.Next_2.Enabled = true;
-    EXPECT_EQ(Focused(), "cmdPortTest");
-    model.cmdPortTest.Enabled = false;
-    EXPECT_EQ(Focused(), "Next_2");
+    EXPECT_EQ(FocusedAfter(model.Next_2.Enabled, true), "cmdPortTest");
+    EXPECT_EQ(FocusedAfter(model.cmdPortTest.Enabled, false), "Next_2");
     model.cmdExit.Enabled = false;
-    model.Next_2.Enabled = false;
-    EXPECT_EQ(Focused(), "");
-    model.Next_2.Enabled = true;
-    model.cmdPortTest.Enabled = true;
-    EXPECT_EQ(Focused(), "Next_2");
+    EXPECT_EQ(FocusedAfter(model.Next_2.Enabled, false), "");
+    EXPECT_EQ(FocusedAfter(model.Next_2.Enabled, true), "Next_2");
+    EXPECT_EQ(FocusedAfter(model.cmdPortTest.Enabled, true), "Next_2");
     model.cmdExit.Enabled = true;
     drawing.Focus(&model.cmdExit);
     Show(model.PicProgram);
@@ -110,11 +108,9 @@ TEST_F(Followers, TheFocusGoesToAButtonThatCanBePressed) {
 TEST_F(Followers, WhileAPressIsAtWorkALostFocusPressesNothing) {
     bool found = false;
     model.cmdPortTest.OnClick = [&] {
-        model.cmdPortTest.Enabled = false;
-        EXPECT_EQ(Focused(), "");
+        EXPECT_EQ(FocusedAfter(model.cmdPortTest.Enabled, false), "");
         if (found) model.Next_2.Enabled = true;
-        model.cmdPortTest.Enabled = true;
-        EXPECT_EQ(Focused(), "");
+        EXPECT_EQ(FocusedAfter(model.cmdPortTest.Enabled, true), "");
     };
     model.Next_2.Enabled = false;
     Show(model.PicSetup);
@@ -183,9 +179,7 @@ TEST_F(Followers, NewsBelongsToTheButtonWithTheFocus) {
     drawing.asked.clear();
     model.lblResults.Caption = "Query to Port 1";
     model.lblResults.Caption = "Query to Port 2";
-    EXPECT_EQ(drawing.asked,
-              "lblResults.Caption\nspeak soon\n"
-              "lblResults.Caption\n");
+    EXPECT_EQ(drawing.asked, "lblResults.Caption\nspeak soon\nlblResults.Caption\n");
     drawing.asked.clear();
     drawing.follower.Speak();
     EXPECT_EQ(std::exchange(drawing.asked, ""), Focused() + " says: Query to Port 2\n");

@@ -1,8 +1,10 @@
-// Where things stand and what fits, whatever measures and draws it.
+// The window's design, where things stand in it and what fits, whatever measures and draws it.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sstream>
 
+#include "tests/support/data.h"
 #include "ui/accessible_text.h"
 #include "ui/isp_main.h"
 #include "ui/page_look.h"
@@ -13,13 +15,93 @@
 namespace keplin::test {
 namespace {
 
+std::ostream& operator<<(std::ostream& out, const Colour& colour) {
+    return out << int{colour.red} << "," << int{colour.green} << "," << int{colour.blue};
+}
+
+const char* Word(Alignment alignment) {
+    return alignment == Alignment::Centre ? ", centred" : "";
+}
+
+// What a kind of control has beside its place.
+class Looks : public ControlVisitor {
+  public:
+    void Visit(const Form& form) override { Text << "window \"" << form.Caption.Get() << '"'; }
+    void Visit(const Page& page) override { Text << "page " << page.Background; }
+    void Visit(const Frame& frame) override {
+        Text << "frame \"" << frame.Caption.Get() << "\", " << frame.Background;
+    }
+    void Visit(const Label& label) override {
+        const TextStyle& style = label.Style;
+        Text << "label \"" << label.Caption.Get() << '"' << Word(style.alignment);
+        if (style.colour) Text << ", in " << *style.colour;
+        if (style.background) Text << ", on " << *style.background;
+        if (style.border) Text << ", border";
+        if (label.Bold) Text << ", bold";
+        if (style.points > 0) Text << ", " << style.points << " pt";
+    }
+    void Visit(const Button& button) override {
+        Text << "button \"" << button.Caption.Get() << "\", tab " << button.TabIndex;
+    }
+    void Visit(const Picture& picture) override {
+        Text << (picture.Shows == Picture::Image::Icon ? "icon" : "getting-started picture");
+    }
+    void Visit(const Shape& shape) override {
+        Text << "shape";
+        if (shape.Fill) Text << " filled " << *shape.Fill;
+    }
+    void Visit(const ProgressBar& bar) override {
+        Text << "progress bar from " << bar.Min << " to " << bar.Max << ", now " << bar.Value;
+    }
+    void Visit(const StatusBar& bar) override {
+        Text << "status bar, " << bar.AboveBottom << " above the bottom, " << bar.PanelCount()
+             << " panels";
+    }
+    void Visit(const Panel& panel) override {
+        const bool share = panel.Sizing == PanelSizing::Share;
+        Text << "panel \"" << panel.Text.Get() << "\", at least " << panel.MinimumWidth << ", "
+             << (share ? "share" : "as its text") << Word(panel.TextAlignment);
+    }
+    void Visit(const Timer& timer) override { Text << "timer " << timer.Interval << " ms"; }
+
+    std::ostringstream Text;
+};
+
+std::string LineOf(const Control& control) {
+    Looks looks;
+    std::ostringstream& line = looks.Text;
+    line << control.Name;
+    if (control.Container != nullptr) line << " in " << control.Container->Name;
+    line << ": ";
+    control.Accept(looks);
+    line << " at " << control.Left << " " << control.Top << " " << control.Width << " "
+         << control.Height;
+    if (!control.Visible) line << ", hidden";
+    if (!control.Enabled) line << ", disabled";
+    const AccessibleText heard = AccessibleTextOf(control);
+    if (heard.name.empty()) line << ", not heard";
+    for (const std::string& text : {heard.name, heard.description, heard.value}) {
+        if (line.str().find(text) == std::string::npos) line << ", heard \"" << text << '"';
+    }
+    return line.str() + "\n";
+}
+
+TEST(Design, EveryControlIsAsDesigned) {
+    const ISPMain window;
+    std::string lines = LineOf(window);
+    for (const Control* control : window.Controls())
+        lines += LineOf(*control);
+    EXPECT_EQ(lines, Data("design.txt"));
+    EXPECT_FALSE(window.MovingLeft);
+}
+
 // Every letter is as wide as half of the font's height in pixels at 96 dpi, but in one family.
 class Letters : public TextMeasure {
   public:
     explicit Letters(std::vector<std::string> families) : families_(std::move(families)) {}
 
     [[nodiscard]] bool HasFamily(const std::string& family) const override {
-        return std::find(families_.begin(), families_.end(), family) != families_.end();
+        return std::ranges::count(families_, family) > 0;
     }
     [[nodiscard]] std::string OwnFamily() const override { return "Own"; }
     [[nodiscard]] std::vector<Rect<double>> LineInks(const std::string& text, const TextFont& font,
@@ -124,9 +206,8 @@ TEST(StatusPanels, ShareTheirBarAndShortenALongPath) {
 
 TEST(StatusPanels, NoCharacterIsCutInTwo) {
     const TextWidth characters = [](const std::string& text) {
-        return static_cast<int>(std::count_if(text.begin(), text.end(), [](char byte) {
-            return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-        }));
+        return static_cast<int>(
+            std::ranges::count_if(text, [](unsigned char byte) { return (byte & 0xC0) != 0x80; }));
     };
     EXPECT_EQ(ShortenedInMiddle("äöüßÄÖÜ", 5, characters), "äö…ÖÜ");
     EXPECT_EQ(ShortenedInMiddle("a\u0301b\u0301c\u0301d\u0345", 4, characters), "…d\u0345");
@@ -162,14 +243,6 @@ TEST(Throttle, LessThanAPixelIsNoChangeAndTheEndsAlwaysAre) {
     EXPECT_EQ(StepsDone(window.ProgressBar1), 5000);
     window.ProgressBar1.Max = 0;
     EXPECT_EQ(StepsDone(window.ProgressBar1), 0);
-}
-
-TEST(AccessibleText, ATextThatIsThereIsTheName) {
-    ISPMain window;
-    window.lblResults.Caption = "Query to Port 1";
-    EXPECT_EQ(AccessibleTextOf(window.lblResults).name, "Query to Port 1");
-    EXPECT_EQ(AccessibleTextOf(window.cmdExit).name, "Close");
-    EXPECT_EQ(AccessibleTextOf(window.Frame1).name, "Setup Procedure");
 }
 
 }  // namespace

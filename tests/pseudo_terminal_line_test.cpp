@@ -14,14 +14,6 @@ using namespace test;
 
 const std::string kRecord = ":010000020CF1";
 
-UniqueFd OpenWhenThere(const std::string& path) {
-    for (int waited = 0; waited < 10'000; ++waited) {
-        if (UniqueFd host = OpenLine(path)) return host;
-        ::poll(nullptr, 0, 1);
-    }
-    return {};
-}
-
 TEST(PseudoTerminalLine, IsRawAndAnswersOneHostAfterTheOther) {
     Loader loader;
     std::string path;

@@ -1,16 +1,10 @@
 // The serial adapter on real pseudo-terminals, whose far end the tests hold.
 #include <gtest/gtest.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
 
-#include <chrono>
 #include <csignal>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <optional>
-#include <vector>
+#include <numeric>
 
 #include "device/posix/posix_port.h"
 #include "device/posix/prompt_close.h"
@@ -29,7 +23,7 @@ constexpr std::uint8_t kPing = 0x55;
 class SerialAdapter : public ::testing::Test {
   protected:
     SerialAdapter() {
-        Plug(*far_);
+        Plug(device_);
         port_.OnLineChange = [this](int line) {
             EXPECT_TRUE(line >= 0 || IsOpen(line_)) << "told too late";
             line_ = line;
@@ -39,10 +33,10 @@ class SerialAdapter : public ::testing::Test {
 
     static bool IsOpen(int descriptor) { return fcntl(descriptor, F_GETFD) != -1; }
 
-    // Puts a line behind the path of port 2, the only one there is.
-    void Plug(const PseudoTerminal& line) const {
-        fs::remove(device_);
-        fs::create_symlink(line.Path(), device_);
+    // Puts a new line behind the path.
+    void Plug(const fs::path& path) {
+        fs::remove(path);
+        fs::create_symlink(far_.emplace().Path(), path);
     }
 
     bool ByteComes() { return port_.TakeWait() && IsReadable(line_); }
@@ -57,18 +51,23 @@ class SerialAdapter : public ::testing::Test {
         return bytes;
     }
 
+    void ExpectPingArrives() {
+        EXPECT_NO_THROW(port_.WriteByte(kPing));
+        EXPECT_EQ(far_->Receive(1), "U");
+    }
+
     const TemporaryFolder temporary_;
     const fs::path folder_ = temporary_.Path();
     const fs::path device_ = folder_ / "ttyUSB0";
-    std::optional<PseudoTerminal> far_{std::in_place};
+    std::vector<std::string> ports_{"", device_};  // of the computer
+    std::optional<PseudoTerminal> far_;
     int line_ = -1;  // the descriptor that is to be watched
-    PosixPort port_{[this] { return std::vector<std::string>{"", device_}; }, folder_};
+    PosixPort port_{[this] { return ports_; }, folder_};
 };
 
 TEST_F(SerialAdapter, PassesEveryByteUnchangedBothWays) {
-    std::string bytes;
-    for (int code = 0; code < 256; ++code)
-        bytes += static_cast<char>(code);
+    std::string bytes(256, '\0');
+    std::iota(bytes.begin(), bytes.end(), '\0');
     const termios settings = far_->Settings();
     EXPECT_TRUE(cfgetispeed(&settings) == B38400 && cfgetospeed(&settings) == B38400);
     EXPECT_EQ(settings.c_iflag & (IXON | IXOFF | IXANY | INPCK), 0U);
@@ -83,7 +82,7 @@ TEST_F(SerialAdapter, PassesEveryByteUnchangedBothWays) {
 }
 
 TEST_F(SerialAdapter, DropsWhatCameBeforeOpeningAndBeforeADiscard) {
-    Plug(far_.emplace());
+    Plug(device_);
     far_->Send("old\n");
     ASSERT_EQ(far_->Receive(5), "old\r\n") << "the echo shows that the bytes have arrived";
     ASSERT_GT(OpenPort(port_, 2), 0);
@@ -117,9 +116,8 @@ TEST_F(SerialAdapter, KeepsASecondProgramOutUntilClosed) {
 TEST_F(SerialAdapter, OpensNothingButASerialLine) {
     std::ofstream(folder_ / "file") << "text";
     ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0600), 0);
-    for (const char* name : {"absent", "file", "pipe", "."}) {
+    for (const char* name : {"absent", "file", "pipe", "."})
         EXPECT_EQ(OpenAnother(folder_ / name), 0) << name;
-    }
     EXPECT_EQ(OpenPort(port_, 3), 0) << "no such port";
     EXPECT_EQ(OpenPort(port_, 2, 38401), 0) << "no such speed";
     EXPECT_FALSE(port_.TakeWait());
@@ -140,7 +138,7 @@ TEST_F(SerialAdapter, NoticesAHangUpInEachStepOfAnExchangeAndAtRest) {
         [&] { port_.CheckLine(); }};
     for (const auto& step : steps) {
         SCOPED_TRACE(&step - steps);
-        Plug(far_.emplace());
+        Plug(device_);
         ASSERT_GT(OpenPort(port_, 2), 0);
         EXPECT_FALSE(port_.LineLost());
         port_.WriteText(":01");
@@ -186,15 +184,14 @@ TEST_F(SerialAdapter, StaysAwayFromAPortThatARunningProcessHasLocked) {
     if (ended == 0) _exit(0);
     waitpid(ended, nullptr, 0);
     const std::string bytes(reinterpret_cast<const char*>(&self), sizeof self);
-    const std::string text = std::to_string(self) + " terminal user\n";
-    const std::vector<std::string> owners{
-        std::to_string(ended) + "\n", "", "0\n", "-1\n", "no number", text, bytes};
-    for (const std::string& owner : owners) {
-        std::ofstream(lock, std::ios::binary) << owner;
-        EXPECT_EQ(OpenAnother(device_, folder_), owner == text || owner == bytes ? 0 : 1) << owner;
-    }
-    std::ofstream(lock) << "         1\n";
-    EXPECT_EQ(OpenAnother(device_, folder_), 0);
+    const auto expect = [&](int status, const std::vector<std::string>& owners) {
+        for (const std::string& owner : owners) {
+            std::ofstream(lock, std::ios::binary) << owner;
+            EXPECT_EQ(OpenAnother(device_, folder_), status) << owner;
+        }
+    };
+    expect(1, {std::to_string(ended) + "\n", "", "0\n", "-1\n", "no number"});
+    expect(0, {bytes, std::to_string(self) + " terminal user\n", "         1\n"});
     EXPECT_TRUE(getuid() != 0 || OpenAsNobody(device_, folder_) == 0) << "another user's process";
     fs::remove(lock);
     ASSERT_EQ(mkfifo(lock.c_str(), 0600), 0);
@@ -226,9 +223,7 @@ TEST(PromptClose, DoesNotWaitForADeviceThatTakesNoBytes) {
     ClosePromptly(std::move(line));
     EXPECT_LT(std::chrono::steady_clock::now() - start, 10s);
     EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);
-    struct sigaction action {};
-    sigaction(SIGALRM, nullptr, &action);
-    EXPECT_EQ(action.sa_handler, SIG_DFL) << "left behind";
+    EXPECT_EQ(std::signal(SIGALRM, SIG_DFL), SIG_DFL) << "left behind";
     sigset_t blocked;
     pthread_sigmask(SIG_UNBLOCK, &alarm, &blocked);
     EXPECT_TRUE(sigismember(&blocked, SIGALRM));
@@ -241,7 +236,7 @@ TEST_F(SerialAdapter, ALostLineIsOpenedAgainOnlyWhenAskedTo) {
     port_.ReopenLostLine();
     EXPECT_TRUE(port_.LineLost()) << "still unplugged";
 
-    Plug(far_.emplace());
+    Plug(device_);
     port_.DiscardInput();
     EXPECT_EQ(port_.ReadByte(), -1);
     EXPECT_THROW(port_.WriteText(":"), PortError) << "nothing must go to a new line by itself";
@@ -250,46 +245,40 @@ TEST_F(SerialAdapter, ALostLineIsOpenedAgainOnlyWhenAskedTo) {
 
     port_.ReopenLostLine();
     EXPECT_FALSE(port_.LineLost());
-    port_.WriteByte(kPing);
-    EXPECT_EQ(far_->Receive(1), "U");
+    ExpectPingArrives();
     far_->Send("U");
     EXPECT_EQ(Read(1), "U");
 
-    far_->HangUp();
-    Plug(far_.emplace());
+    Plug(device_);
     port_.ReopenLostLine();
-    EXPECT_NO_THROW(port_.WriteByte(kPing)) << "a loss that nobody has noticed yet";
+    ExpectPingArrives();  // after a loss that nobody had noticed
 }
 
 // The adapter goes and comes back under another name, and then under its old one.
 TEST_F(SerialAdapter, ALostLineIsFoundUnderAnotherNameButNeverTakenForItsNeighbour) {
-    port_.Close();
     const PseudoTerminal neighbour;
-    const fs::path other = folder_ / "ttyUSB1";
     // More ports than a search tries: the last one moves up when the first is gone.
     const std::vector<std::string> others{"/nowhere/2", "/nowhere/3", "/nowhere/4",
                                           neighbour.Path()};
-    std::vector<std::string> ports{others};
-    ports.insert(ports.begin(), device_);
-    PosixPort port([&] { return ports; });
-    const auto replug = [&](const fs::path& from, const fs::path& to) {
+    fs::path path = device_;
+    ports_ = others;
+    ports_.insert(ports_.begin(), path);
+    ASSERT_GT(OpenPort(port_, 1), 0);
+    for (const char* name : {"ttyUSB1", "ttyUSB0"}) {
         far_->HangUp();
-        port.CheckLine();
-        fs::remove(from);
-        ports = others;
-        port.ReopenLostLine();
-        EXPECT_TRUE(port.LineLost());
+        port_.CheckLine();
+        fs::remove(path);
+        ports_ = others;
+        port_.ReopenLostLine();
+        EXPECT_TRUE(port_.LineLost());
 
-        fs::create_symlink(far_.emplace().Path(), to);
-        ports.push_back(to);
-        port.ReopenLostLine();
-        EXPECT_FALSE(port.LineLost());
-        EXPECT_NO_THROW(port.WriteByte(kPing));
-        EXPECT_EQ(far_->Receive(1), "U");
-    };
-    ASSERT_GT(OpenPort(port, 1), 0);
-    replug(device_, other);
-    replug(other, device_);
+        path = folder_ / name;
+        Plug(path);
+        ports_.push_back(path);
+        port_.ReopenLostLine();
+        EXPECT_FALSE(port_.LineLost());
+        ExpectPingArrives();
+    }
 }
 
 }  // namespace

@@ -2,15 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
-#include <string>
-#include <string_view>
 #include <tuple>
-#include <utility>
-#include <vector>
 
 #include "simulator/faulty_device.h"
-#include "simulator/loader.h"
 #include "simulator/wire.h"
 
 namespace keplin::simulator {
@@ -30,6 +24,19 @@ std::string Send(DeviceEnd& device, std::string_view text) {
     return result;
 }
 
+// One with faults, on its wire.
+struct FaultyController {
+    FaultyController(std::initializer_list<FaultAt> faults, std::uint32_t seed = 1)
+        : device(loader, seed) {
+        for (const FaultAt fault : faults)
+            device.Inject(fault);
+    }
+
+    Loader loader;
+    FaultyDevice device;
+    Wire wire{device};
+};
+
 bool SameMemory(const Flash& one, const Flash& other) {
     return std::ranges::equal(one.Cells(), other.Cells());
 }
@@ -48,22 +55,14 @@ TEST(SimulatedLoader, RefusesEachWithItsLetterAndKeepsItsMemory) {
     Loader loader;
     const auto old = loader.Memory().Cells().first(0x8000);  // a program, from one end to the other
     EXPECT_EQ(std::ranges::count(old, Flash::kErased), 0);
-    const std::pair<std::string, char> records[] = {
-        {kErase1, 'N'},
-        {":01800000017E", 'N'},
-        {kCalibration, '.'},
-        {":03000000010203F8", 'S'},
-        {":00000004FC", 'T'},
-        {":0100000100FE", 'F'},
-        {":010000020DF0", 'F'},
-        {":020000030700F4", 'F'},
-        {":020001030100F9", 'F'},
-        {":020000020100FB", 'F'},
-        {kData, 'W'},
-        {":02FFFF000102FD", 'R'},
-    };
-    for (const auto& [record, letter] : records) {
-        EXPECT_EQ(Send(loader, record), record + letter + "\r\n");
+    // Each record with the letter that comes behind its echo.
+    const std::vector<std::string> cases{
+        kErase1 + " N",      ":01800000017E N",   kCalibration + " .", ":03000000010203F8 S",
+        ":00000004FC T",     ":0100000100FE F",   ":010000020DF0 F",   ":020000030700F4 F",
+        ":020001030100F9 F", ":020000020100FB F", kData + " W",        ":02FFFF000102FD R"};
+    for (const std::string& text : cases) {
+        const std::string record = text.substr(0, text.size() - 2);
+        EXPECT_EQ(Send(loader, record), record + text.back() + "\r\n");
         EXPECT_TRUE(SameMemory(loader.Memory(), Flash())) << record;
     }
 }
@@ -105,9 +104,8 @@ TEST(SimulatedFaults, NamesAreReadWithTheirPlace) {
         EXPECT_EQ(ParseFault(name + "@12+"), (FaultAt{fault.kind, 12, true}));
     }
     for (const char* text : {"", "silence", "silence@", "silence@0", "silence@-1", "silence@1x",
-                             "silence@1++", "silence@99999999999", "quiet@1", "@1"}) {
+                             "silence@1++", "silence@99999999999", "quiet@1", "@1"})
         EXPECT_EQ(ParseFault(text), std::nullopt) << text;
-    }
 }
 
 // What becomes of the reply to the calibration when a fault strikes it, and only it.
@@ -129,12 +127,11 @@ TEST(SimulatedFaults, EachChangesOneReply) {
     };
     for (const auto& [kind, reply, obeyed] : cases) {
         SCOPED_TRACE(FaultOf(kind).name);
-        Loader loader;
-        FaultyDevice device(loader, 1);
-        device.Inject({kind, 2, false});
+        FaultyController faulty({{kind, 2}});
+        FaultyDevice& device = faulty.device;
         EXPECT_EQ(Send(device, "?"), "");
         EXPECT_EQ(Send(device, kCalibration), reply);
-        EXPECT_EQ(loader.ObeyedRecords().size(), obeyed ? 1u : 0u);
+        EXPECT_EQ(faulty.loader.ObeyedRecords().size(), obeyed ? 1u : 0u);
         if (device.HungUp()) device.LineClosed();
         EXPECT_EQ(Send(device, "a line U" + kCalibration), "U" + honest);
         EXPECT_EQ(device.ExchangesSeen(), 5);
@@ -147,19 +144,16 @@ TEST(SimulatedFaults, EachChangesOneReply) {
 
 TEST(SimulatedFaults, StrayBytesAreNoneOfTheReplyAndHaveNoEndOfALine) {
     for (std::uint32_t seed = 0; seed < 1000; ++seed) {
-        Loader loader;
-        FaultyDevice device(loader, seed);
-        device.Inject({FaultKind::ByteFirst, 1, false});
-        device.Inject({FaultKind::Noise, 2, false});
-        device.Inject({FaultKind::Babble, 3, false});
-        const std::string first = Send(device, "U");
+        FaultyController faulty(
+            {{FaultKind::ByteFirst, 1}, {FaultKind::Noise, 2}, {FaultKind::Babble, 3}}, seed);
+        const std::string first = Send(faulty.device, "U");
         ASSERT_TRUE(first.size() == 2 && first[0] != 'U' && first[1] == 'U') << seed;
-        const std::string noisy = Send(device, "U");
+        const std::string noisy = Send(faulty.device, "U");
         ASSERT_TRUE(noisy.size() > 1 && noisy[0] == 'U') << seed;
         Reply babble;
-        ASSERT_EQ(Send(device, "U"), "");
+        ASSERT_EQ(Send(faulty.device, "U"), "");
         for (int i = 0; i < 5000; ++i)
-            device.LineIdle(babble);
+            faulty.device.LineIdle(babble);
         ASSERT_GT(babble.size(), 4200u) << seed;
         ASSERT_TRUE(std::ranges::none_of(babble, [](SentByte byte) { return byte.value == '\n'; }));
     }
@@ -168,13 +162,11 @@ TEST(SimulatedFaults, StrayBytesAreNoneOfTheReplyAndHaveNoEndOfALine) {
 TEST(SimulatedFaults, PowerLostInAnEraseLeavesTheBlockOrHalfOfIt) {
     Flash expected;
     for (const auto kind : {FaultKind::PowerLost, FaultKind::PowerLostHalf}) {
-        Loader loader;
-        FaultyDevice device(loader, 1);
-        device.Inject({kind, 2, false});
-        Send(device, kCalibration);
-        EXPECT_EQ(Send(device, kErase1), "");
-        EXPECT_TRUE(SameMemory(loader.Memory(), expected));
-        EXPECT_EQ(Send(device, kErase1), kErase1 + "N\r\n");
+        FaultyController faulty({{kind, 2}});
+        Send(faulty.device, kCalibration);
+        EXPECT_EQ(Send(faulty.device, kErase1), "");
+        EXPECT_TRUE(SameMemory(faulty.loader.Memory(), expected));
+        EXPECT_EQ(Send(faulty.device, kErase1), kErase1 + "N\r\n");
         expected.Erase({0, 0x1000});
     }
 }
@@ -196,20 +188,15 @@ TEST(SimulatedWire, EachByteTakesItsTimeInBothDirections) {
 }
 
 TEST(SimulatedWire, ADeviceAtRestMayGoOnSending) {
-    Loader loader;
-    FaultyDevice device(loader, 1);
-    device.Inject({FaultKind::Babble, 1, true});
-    Wire wire(device);
-    wire.HostSends(std::vector<std::uint8_t>{'U'}, Time{0});
+    FaultyController faulty({{FaultKind::Babble, 1, true}});
+    faulty.wire.HostSends(std::vector<std::uint8_t>{'U'}, Time{0});
     for (int i = 2; i < 50; ++i)
-        EXPECT_NE(wire.ReadAtHost(i * kByteTime), std::nullopt) << i;
+        EXPECT_NE(faulty.wire.ReadAtHost(i * kByteTime), std::nullopt) << i;
 }
 
 TEST(SimulatedWire, AHangUpLosesWhatIsOnItsWayAndWhatIsSentBeforeItIsNoticed) {
-    Loader loader;
-    FaultyDevice device(loader, 1);
-    device.Inject({FaultKind::HangUp, 2, false});
-    Wire wire(device);
+    FaultyController faulty({{FaultKind::HangUp, 2}});
+    Wire& wire = faulty.wire;
     wire.HostSends(std::vector<std::uint8_t>{'U', ':', 'U'}, Time{0});
     EXPECT_EQ(wire.ReadAtHost(2 * kByteTime), std::nullopt);
     wire.HostSends(std::vector<std::uint8_t>{'U'}, 2 * kByteTime);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/rig.h"
+#include "ui/accessible_text.h"
 #include "ui/activity.h"
 #include "ui/run_progress.h"
 
@@ -61,6 +62,8 @@ TEST(Window, AFailedSearchSaysSoAndLeavesNextAsItWas) {
         rig.window.Next_2.Enabled = next;
         rig.window.cmdPortTest.Press();
         EXPECT_EQ(rig.window.lblResults.Caption.Get(), " Communications Fail on All Ports");
+        EXPECT_EQ(AccessibleTextOf(rig.window.lblResults).name,
+                  rig.window.lblResults.Caption.Get());
         EXPECT_EQ(rig.window.Next_2.Enabled, next);
     }
 }

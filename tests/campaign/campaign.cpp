@@ -1,228 +1,26 @@
+// keplin-campaign N SEED: N random updates from a seed on; 10000 from 1 when left out.
 #include "tests/campaign/campaign.h"
 
-#include <algorithm>
-#include <array>
-#include <random>
+#include <cstdlib>
+#include <iostream>
 
-#include "simulator/faulty_device.h"
-#include "tests/support/rig.h"
-
-namespace keplin::test {
-namespace {
-
-using namespace simulator;
-
-// More than any run can take: with the longest file and every limit reached, an update ends sooner.
-constexpr long kYieldLimit = 2'000'000;
-
-struct DoesNotEnd {};
-
-class RandomTechnician {
-  public:
-    explicit RandomTechnician(std::uint64_t seed)
-        : random_(seed), device_(loader_, static_cast<std::uint32_t>(seed)), rig_(&device_) {
-        rig_.trace.Recording = false;
-        rig_.time.LongestWait = std::chrono::milliseconds(40);
-        clickEvery_ = OneIn(3) ? 0 : static_cast<int>(3U << Below(9));
-        rig_.desktop.OnYield = [this] { DuringYield(); };
+int main(int argc, char** argv) {
+    const std::uint64_t count = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 10000;
+    const std::uint64_t first = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : 1;
+    if (argc > 3 || count == 0) {
+        std::cerr << "usage: keplin-campaign [N [SEED]]\n";
+        return 2;
     }
-
-    std::optional<std::string> Work(Tally& tally) {
-        try {
-            ReachProgramPage();
-            if (!rig_.window.PicProgram.Shown()) {
-                ++tally.noFile;
-                return wrong_;
-            }
-            for (int run = 0; run < 3 && !rig_.window.UpdateComplete(); ++run)
-                Update();
-            ++(rig_.window.UpdateComplete() ? tally.completed : tally.stopped);
-        } catch (const ProgramEnded&) {
-            ++tally.closed;
-            Demand(!rig_.desktop.EndedBusy, "the program ended during a search or a run");
-        } catch (const DoesNotEnd&) {
-            Demand(false, "an operation does not end");
-        }
-        return wrong_;
-    }
-
-  private:
-    unsigned Below(unsigned count) { return static_cast<unsigned>(random_() % count); }
-    bool OneIn(unsigned count) { return Below(count) == 0; }
-
-    void Demand(bool holds, const char* what) {
-        if (!holds && !wrong_) wrong_ = what;
-    }
-
-    void ReachProgramPage() {
-        rig_.window.Next_1.Press();
-        InjectFaults(2);
-        for (int search = 0; search < 3 && !rig_.window.Next_2.Enabled; ++search) {
-            rig_.window.cmdPortTest.Press();
-        }
-        file_.emplace(RandomFile());
-        rig_.desktop.Answer = file_->Path();
-        if (OneIn(50)) rig_.desktop.Answer = std::nullopt;
-        rig_.window.Next_2.Press();
-    }
-
-    void Update() {
-        if (OneIn(2)) InjectFaults(20 + static_cast<int>(lines_.size()));
-        rig_.port.Settle();
-        sentBefore_ = rig_.port.Sent.size();
-        obeyedBefore_ = loader_.ObeyedRecords().size();
-        leftover_ = rig_.port.KeepsBytes();
-        swapAt_ = OneIn(8) ? rig_.desktop.Yields + Below(400) : -1;
-        if (OneIn(8)) SwapController();
-        if (OneIn(2)) rig_.port.CheckLine();
-        if (OneIn(8)) rig_.port.KeepBack(sentBefore_ + Below(20), Below(12));
-        rig_.window.Command1.Press();
-        swapAt_ = -1;
-        Demand(rig_.window.cmdExit.CanBePressed(), "Close cannot be pressed after a run");
-        Demand(!rig_.window.Shape1.Visible && !rig_.window.Shape2.Visible &&
-                   !rig_.window.Timer1.Enabled,
-               "the activity indicator is on after a run");
-        Demand(!rig_.desktop.Awake, "the computer is kept awake after a run");
-        if (rig_.window.UpdateComplete()) {
-            DemandEveryLineObeyed();
-        } else {
-            Demand(rig_.window.Command1.CanBePressed(), "Update cannot be pressed after a stop");
-        }
-        if (OneIn(2)) device_.ClearFaults();
-        rig_.time.Now += std::chrono::seconds(3);
-    }
-
-    // The completion page says that the controller holds the file.
-    void DemandEveryLineObeyed() {
-        Demand(EveryLineObeyed(),
-               "complete, but the controller did not obey every line once and in order");
-        std::vector<std::string> sent(
-            rig_.port.Sent.begin() + static_cast<std::ptrdiff_t>(sentBefore_),
-            rig_.port.Sent.end());
-        std::erase(sent, "U");
-        Demand(sent == WholeUpdate(), "complete, but not every line was sent once and in order");
-    }
-
-    bool EveryLineObeyed() {
-        const auto& obeyed = loader_.ObeyedRecords();
-        const auto since = obeyed.begin() + static_cast<std::ptrdiff_t>(obeyedBefore_);
-        std::vector<std::string> records(since, obeyed.end());
-        const auto update = WholeUpdate();
-        // What the adapter kept of a record leaves ahead of the first ping, and the erase follows.
-        if (leftover_ && records.size() == update.size() + 1) records.erase(records.begin());
-        return records == update;
-    }
-
-    // Every record of an update, in order.
-    std::vector<std::string> WholeUpdate() {
-        std::vector<std::string> records{":010000020CF1",   ":010000020CF1",   ":020000030100FA",
-                                         ":020000030120DA", ":020000030140BA", ":010000020CF1"};
-        const auto end = std::find(lines_.begin(), lines_.end(), "");
-        records.insert(records.end(), lines_.begin(), end);
-        return records;
-    }
-
-    void InjectFaults(int within) {
-        const unsigned count = Below(3);
-        for (unsigned i = 0; i < count; ++i) {
-            const auto& fault = FaultTable()[Below(static_cast<unsigned>(FaultTable().size()))];
-            const int at = device_.ExchangesSeen() + 1 +
-                           static_cast<int>(Below(static_cast<unsigned>(within)));
-            device_.Inject({fault.kind, at, OneIn(6)});
+    keplin::test::Tally tally;
+    for (std::uint64_t seed = first; seed < first + count; ++seed) {
+        if (const auto wrong = keplin::test::RandomUpdate(seed, tally)) {
+            std::cerr << "seed " << seed << ": " << *wrong << "\n"
+                      << "again: keplin-campaign 1 " << seed << "\n";
+            return 1;
         }
     }
-
-    std::string RandomFile() {
-        std::string contents;
-        const unsigned count = OneIn(4) ? Below(60) : Below(12);
-        for (unsigned i = 0; i < count; ++i) {
-            lines_.push_back(RandomLine(i));
-            contents += lines_.back() + (OneIn(5) ? "\r" : "\r\n");
-        }
-        return contents;
-    }
-
-    std::string RandomLine(unsigned index) {
-        if (OneIn(60)) return "";
-        if (OneIn(60)) return ":00000001FF";
-        if (OneIn(60)) return RandomBytes(1 + Below(40));
-        if (OneIn(200)) return RandomBytes(5000);
-        return DataRecord(index * 256, 1 + Below(OneIn(9) ? 255 : 24));
-    }
-
-    std::string RandomBytes(unsigned length) {
-        std::string text;
-        while (text.size() < length) {
-            const char byte = static_cast<char>(Below(256));
-            // A line feed at the head of a line would belong to the end of the line before it.
-            if (byte != '\r' && (byte != '\n' || !text.empty())) text.push_back(byte);
-        }
-        return text;
-    }
-
-    std::string DataRecord(unsigned address, unsigned count) {
-        std::string record = ":";
-        unsigned sum = 0;
-        const auto add = [&](unsigned byte) {
-            record += "0123456789ABCDEF"[byte >> 4 & 15];
-            record += "0123456789ABCDEF"[byte & 15];
-            sum += byte;
-        };
-        for (const unsigned byte : {count, address >> 8 & 0xFF, address & 0xFF, 0U})
-            add(byte);
-        for (unsigned i = 0; i < count; ++i)
-            add(Below(256));
-        add((OneIn(100) ? 1 - sum : -sum) & 0xFF);  // now and then a wrong checksum
-        return record;
-    }
-
-    // The adapter is unplugged, and a controller that has not been erased hangs on it when it is
-    // back, under the same name.
-    void SwapController() {
-        if (EveryLineObeyed()) return;
-        device_.HangUp();
-        loader_ = Loader();
-        obeyedBefore_ = 0;
-        leftover_ = false;
-    }
-
-    void DuringYield() {
-        if (rig_.desktop.Yields == swapAt_) SwapController();
-        if (OneIn(2)) rig_.port.CheckLine();
-        if (rig_.desktop.Yields > kYieldLimit) throw DoesNotEnd{};
-        Demand(!rig_.desktop.AwakeTwice, "two runs at a time");
-        if (clickEvery_ == 0 || !OneIn(static_cast<unsigned>(clickEvery_))) return;
-        ISPMain& window = rig_.window;
-        const std::array<const Button*, 5> buttons{&window.cmdExit, &window.Next_1, &window.Next_2,
-                                                   &window.cmdPortTest, &window.Command1};
-        const unsigned choice = Below(buttons.size() + 1);
-        const bool leaving = choice == 0 || choice == buttons.size();
-        if (leaving && !rig_.desktop.Awake && !OneIn(20)) return;  // most stay to the end
-        if (choice == buttons.size()) {
-            window.RequestClose();
-        } else {
-            buttons[choice]->Press();
-        }
-    }
-
-    std::mt19937_64 random_;
-    Loader loader_;
-    FaultyDevice device_;
-    Rig rig_;
-    std::optional<TemporaryFile> file_;
-    std::vector<std::string> lines_;
-    std::size_t sentBefore_ = 0;
-    std::size_t obeyedBefore_ = 0;
-    bool leftover_ = false;  // of an exchange before this run
-    long swapAt_ = -1;    // the yield at which another controller takes this one's place; -1: none
-    int clickEvery_ = 0;  // yields, on average; 0: never
-    std::optional<std::string> wrong_;
-};
-
-}  // namespace
-
-std::optional<std::string> RandomUpdate(std::uint64_t seed, Tally& tally) {
-    return RandomTechnician(seed).Work(tally);
+    std::cout << count << " updates from seed " << first << ": " << tally.completed
+              << " completed, " << tally.stopped << " stopped, " << tally.closed << " closed, "
+              << tally.noFile << " without a file\n";
+    return 0;
 }
-
-}  // namespace keplin::test

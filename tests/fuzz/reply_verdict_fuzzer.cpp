@@ -1,40 +1,25 @@
 // Any bytes as a record and what comes back: the exchange ends, and its verdict is the right one.
-#include <cstdint>
 #include <cstdlib>
-#include <string>
 
 #include "device/device_exchange.h"
-#include "tests/support/virtual_desktop.h"
+#include "tests/support/virtual_port.h"
 
 namespace {
 
-// A line on which a fixed reply comes in and then nothing more.
-class FixedReply : public keplin::SerialPort {
+// Answers the last byte of a record with a fixed reply, and then nothing more.
+class FixedReply : public keplin::simulator::DeviceEnd {
   public:
-    FixedReply(std::string_view reply, keplin::test::VirtualTime& time)
-        : reply_(reply), time_(time) {}
+    FixedReply(std::size_t record, std::string_view reply) : awaited_(record), reply_(reply) {}
 
-    void PortNumber(std::int32_t) override {}
-    void LineSpeed(std::int32_t) override {}
-    void Setting3(std::int32_t) override {}
-    void Setting47(std::int32_t) override {}
-    std::int32_t Open() override { return 1; }
-    std::int32_t Close() override { return 0; }
-    std::int32_t ReadByte() override {
-        if (read_ < reply_.size()) return static_cast<std::uint8_t>(reply_[read_++]);
-        time_.ReadNothing();
-        return -1;
+    void Receive(std::uint8_t, std::vector<keplin::simulator::SentByte>& answer) override {
+        if (--awaited_ != 0) return;
+        for (const char byte : reply_)
+            answer.push_back({static_cast<std::uint8_t>(byte)});
     }
-    void WriteByte(std::uint8_t) override {}
-    void DiscardInput() override {}
-    void WriteText(std::string_view) override {}
-    [[nodiscard]] bool LineLost() const override { return false; }
-    void ReopenLostLine() override {}
 
   private:
+    std::size_t awaited_;  // bytes of the record
     const std::string_view reply_;
-    keplin::test::VirtualTime& time_;
-    std::size_t read_ = 0;
 };
 
 // The verdict by another road: letter for letter, on the reply's first line.
@@ -64,7 +49,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     keplin::test::VirtualScreen screen;
     screen.trace.Recording = false;
     screen.time.LongestWait = std::chrono::seconds(1);
-    FixedReply port(reply, screen.time);
+    FixedReply device(record.size(), reply);
+    keplin::test::VirtualPort port(device, screen);
+    port.LineSpeed(38400);
+    port.PortNumber(port.kControllerPort);
+    port.Open();
     keplin::DeviceExchange controller(port, screen.desktop);
     if (controller.SendDataLine(record) != Expected(record, reply)) std::abort();
     return 0;

@@ -2,7 +2,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <cstdint>
+#include <algorithm>
 #include <cstdlib>
 
 #include "tests/support/virtual_desktop.h"
@@ -19,7 +19,7 @@ std::vector<std::string> LinesOf(std::string_view text) {
         const auto end = std::min(text.find('\r'), text.size());
         lines.emplace_back(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
-        if (end < lines.back().size() + 1 && text.starts_with('\n')) text.remove_prefix(1);
+        if (text.starts_with('\n')) text.remove_prefix(1);
     }
     return lines;
 }
@@ -30,20 +30,13 @@ void Demand(bool holds) {
 
 // The lines up to the one that ended the load were stored, and nothing behind them.
 void Check(const UpdateFile& file, const std::vector<std::string>& lines, bool loaded) {
-    std::size_t stored = 0;
-    while (stored < lines.size() && stored < UpdateFile::kSlots &&
-           file.HexLines[stored] == lines[stored]) {
-        ++stored;
-    }
-    if (loaded) {
-        Demand(stored == lines.size());
-        Demand(file.LineCount == static_cast<int>(lines.size()));
-    } else {
-        Demand(stored > 0);  // a line that sums too high, or one line too many
-        Demand(file.LineCount == 0);
-    }
-    for (; stored < UpdateFile::kSlots; ++stored)
-        Demand(file.HexLines[stored].empty());
+    const auto& slots = file.HexLines;
+    const auto rest = std::ranges::mismatch(slots, lines).in1;
+    const auto stored = rest - slots.begin();
+    if (loaded) Demand(stored == std::ssize(lines) && file.LineCount == stored);
+    // A line that sums too high, or one line too many.
+    if (!loaded) Demand(stored > 0 && file.LineCount == 0);
+    Demand(std::all_of(rest, slots.end(), [](const auto& slot) { return slot.empty(); }));
 }
 
 }  // namespace

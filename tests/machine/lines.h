@@ -6,15 +6,9 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
-#include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <string>
 #include <thread>
-#include <utility>
-#include <vector>
 
 #include "demo/file_image.h"
 #include "simulator/loader.h"
@@ -46,11 +40,6 @@ bool Soon(Condition&& condition) {
     return condition();
 }
 
-// A device has its name a moment before it can be opened.
-inline bool Appears(const std::string& device) {
-    return Soon([&] { return static_cast<bool>(OpenLine(device)); });
-}
-
 // Takes the adapter of the line to ttyS2 out of its socket, or puts it back.
 inline void PlugIn(bool in) {
     std::ofstream("/sys/bus/usb/devices/1-1/authorized") << in;
@@ -65,7 +54,7 @@ class Gadget {
         : device_(device), made_(!std::filesystem::exists(device)) {
         const bool modem = device == "/dev/ttyACM0";
         if (made_) Run("insmod /run/g_serial.ko" + std::string(modem ? "" : kFt232));
-        EXPECT_TRUE(Appears(device));
+        EXPECT_TRUE(OpenWhenThere(device));
     }
     ~Gadget() {
         if (!made_) return;
@@ -88,16 +77,9 @@ class Gadget {
 // A controller on a line, at the line's pace.
 class Controller {
   public:
-    explicit Controller(const std::string& farEnd)
-        : line_(OpenRaw(farEnd)), thread_([this] { Run(); }) {}
-    ~Controller() { Leave(); }
-    Controller(const Controller&) = delete;
-    Controller& operator=(const Controller&) = delete;
+    explicit Controller(const std::string& farEnd) : line_(OpenRaw(farEnd)) {}
 
-    void Leave() {
-        leaving_ = true;
-        if (thread_.joinable()) thread_.join();
-    }
+    void Leave() { thread_ = std::jthread(); }
 
     // Leaves the line: its memory is what the file describes.
     void ExpectToHold(const std::string& file) {
@@ -106,10 +88,10 @@ class Controller {
     }
 
   private:
-    void Run() {
+    void Run(const std::stop_token& leaving) {
         std::array<std::uint8_t, 512> heard{};
         std::vector<std::uint8_t> said;
-        while (!leaving_) {
+        while (!leaving.stop_requested()) {
             pollfd waiting{.fd = line_.Get(), .events = POLLIN, .revents = 0};
             ::poll(&waiting, 1, wire_.NextEvent() ? 1 : 20);
             const auto now = std::chrono::steady_clock::now().time_since_epoch();
@@ -123,9 +105,8 @@ class Controller {
 
     simulator::Loader loader_;
     simulator::Wire wire_{loader_};
-    UniqueFd line_;
-    std::atomic<bool> leaving_ = false;
-    std::thread thread_;
+    const UniqueFd line_;
+    std::jthread thread_{[this](const std::stop_token& leaving) { Run(leaving); }};
 };
 
 }  // namespace keplin::test

@@ -2,10 +2,7 @@
 // the USB adapter ttyUSB0 to ttyS2.
 #include <gtest/gtest.h>
 #include <sys/ioctl.h>
-#include <sys/stat.h>
 
-#include <QApplication>
-#include <optional>
 #include <tuple>
 
 #include "tests/machine/lines.h"
@@ -151,7 +148,7 @@ class Replug : public testing::TestWithParam<std::tuple<std::string, bool>> {
     void TearDown() override {
         PlugIn(false);
         PlugIn(true);
-        EXPECT_TRUE(Appears("/dev/ttyUSB0"));
+        EXPECT_TRUE(OpenWhenThere("/dev/ttyUSB0"));
     }
 };
 
@@ -178,7 +175,7 @@ TEST_P(Replug, ASecondTryCompletes) {
         EXPECT_FALSE(program.Update());
     }
     PlugIn(true);
-    EXPECT_TRUE(Appears(newName ? "/dev/ttyUSB1" : "/dev/ttyUSB0"));
+    EXPECT_TRUE(OpenWhenThere(newName ? "/dev/ttyUSB1" : "/dev/ttyUSB0"));
     EXPECT_TRUE(program.Update());
     controller.ExpectToHold(file.Path());
 }
@@ -201,9 +198,3 @@ TEST(Machine, AWholeUpdateArrivesAsItIs) {
 
 }  // namespace
 }  // namespace keplin::test
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

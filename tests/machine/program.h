@@ -4,10 +4,6 @@
 #include <poll.h>
 
 #include <QWidget>
-#include <chrono>
-#include <functional>
-#include <string>
-#include <utility>
 
 #include "device/posix/port_list.h"
 #include "device/posix/posix_port.h"

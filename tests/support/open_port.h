@@ -2,9 +2,6 @@
 #pragma once
 
 #include <sys/wait.h>
-#include <unistd.h>
-
-#include <filesystem>
 
 #include "device/posix/posix_port.h"
 

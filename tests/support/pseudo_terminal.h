@@ -6,10 +6,8 @@
 #include <sys/stat.h>
 #include <termios.h>
 
-#include <cstdlib>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 #include "platform/posix/unique_fd.h"
 
@@ -18,6 +16,16 @@ namespace keplin::test {
 // A line as a program opens it; there is none where that fails.
 inline UniqueFd OpenLine(const std::string& path) {
     return UniqueFd(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
+}
+
+// The same where the line may not be there yet: a device has its name a moment before it can be
+// opened.
+inline UniqueFd OpenWhenThere(const std::string& path) {
+    for (int waited = 0; waited < 10'000; ++waited) {
+        if (UniqueFd line = OpenLine(path)) return line;
+        ::poll(nullptr, 0, 1);
+    }
+    return {};
 }
 
 // Waits that long for it on any machine, and so long only to fail.

@@ -2,13 +2,9 @@
 // other end a simulated controller stands.
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include "session/session.h"
 #include "simulator/loader.h"
 #include "tests/support/temporary_file.h"
-#include "tests/support/virtual_desktop.h"
 #include "tests/support/virtual_port.h"
 
 namespace keplin::test {
@@ -20,7 +16,7 @@ inline constexpr std::string_view kSmallFile =
 struct Rig : VirtualScreen {
     // `device` is what the wire ends at, in place of the rig's own loader.
     explicit Rig(simulator::DeviceEnd* device = nullptr)
-        : port(device != nullptr ? *device : loader, trace, time) {
+        : port(device != nullptr ? *device : loader, *this) {
         session.Main();
     }
 
@@ -30,6 +26,11 @@ struct Rig : VirtualScreen {
         window.cmdPortTest.Press();
         desktop.Answer = path;
         window.Next_2.Press();
+    }
+    // Whether the window then says that the update is complete.
+    bool Update() {
+        window.Command1.Press();
+        return window.UpdateComplete();
     }
 
     simulator::Loader loader;

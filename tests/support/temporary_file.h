@@ -4,8 +4,6 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
-#include <string>
-#include <string_view>
 
 #include "platform/path.h"
 

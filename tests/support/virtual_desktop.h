@@ -2,19 +2,80 @@
 // the window processes its events happens in a yield.
 #pragma once
 
-#include <chrono>
+#include <algorithm>
 #include <filesystem>
-#include <functional>
-#include <optional>
-#include <string>
 
 #include "platform/desktop.h"
 #include "platform/path.h"
-#include "tests/support/trace.h"
-#include "tests/support/virtual_time.h"
+#include "simulator/wire.h"
 #include "ui/isp_main.h"
 
 namespace keplin::test {
+
+// What a procedure did, step by step, as lines of text: property changes, yields, sleeps and the
+// members of the port, in the order in which they happened.
+class Trace : public Observer {
+  public:
+    // A read that follows a yield becomes one line with it, and a run of such lines one line.
+    void Add(std::string line) {
+        if (!Recording) return;
+        static const std::string kWait = "Yield, ReadByte";
+        if (line == "ReadByte" && !lines_.empty() && lines_.back() == "Yield") {
+            lines_.pop_back();
+            line = kWait;
+        }
+        if (line != kWait || lines_.empty() || lines_.back() != kWait) lines_.push_back(line);
+    }
+
+    void Changed(const Control& control, const PropertyBase& property) override {
+        if (!Recording) return;
+        if (control.Name != "Shape2" || property.Which != Aspect::Left) Add(property.Line());
+    }
+
+    // All lines since the last Take, each ended by a line feed.
+    std::string Take() {
+        std::string text;
+        for (const std::string& line : lines_)
+            text += line + "\n";
+        lines_.clear();
+        return text;
+    }
+
+    bool Recording = true;
+
+  private:
+    std::vector<std::string> lines_;
+};
+
+using Microseconds = std::chrono::microseconds;
+
+// The time that the desktop and the port of a test share. A sleep passes it, and so does a yield
+// that waits for the serial line.
+class VirtualTime {
+  public:
+    // A read found nothing: the next yield waits for what comes over the wire, where there is one.
+    void ReadNothing(simulator::Wire* wire = nullptr) {
+        waits_ = true;
+        wire_ = wire;
+    }
+
+    // Waits if a read found nothing since the last time.
+    void Wait() {
+        if (!std::exchange(waits_, false)) return;
+        const Microseconds end = Now + LongestWait;
+        if (wire_ != nullptr) wire_->Advance(Now);
+        const auto event = wire_ != nullptr ? wire_->NextEvent() : std::nullopt;
+        // Rounded up, so that what happens then has happened.
+        Now = event ? std::min(end, std::max(Now, std::chrono::ceil<Microseconds>(*event))) : end;
+    }
+
+    Microseconds Now{0};
+    Microseconds LongestWait{2000};  // of one yield while nothing comes
+
+  private:
+    bool waits_ = false;
+    simulator::Wire* wire_ = nullptr;
+};
 
 // Thrown in place of the end of the program.
 struct ProgramEnded {};
