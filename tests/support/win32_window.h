@@ -5,8 +5,8 @@
 
 #include <string>
 
+#include "platform/win32/utf16.h"
 #include "tests/support/shown_window.h"
-#include "ui/win32/utf16.h"
 #include "ui/win32/win32_desktop.h"
 
 namespace keplin::test {

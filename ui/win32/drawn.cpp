@@ -3,7 +3,7 @@
 #include <commctrl.h>
 #include <uxtheme.h>
 
-#include "ui/win32/utf16.h"
+#include "platform/win32/utf16.h"
 
 namespace keplin::win32 {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "ui/win32/utf16.h"
+#include "platform/win32/utf16.h"
 
 namespace keplin::win32 {
 namespace {

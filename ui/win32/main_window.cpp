@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/win32/utf16.h"
+#include "platform/win32/utf16.h"
 
 namespace keplin::win32 {
 namespace {

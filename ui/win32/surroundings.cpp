@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/win32/object.h"
+#include "platform/win32/utf16.h"
 #include "ui/win32/main_window.h"
-#include "ui/win32/object.h"
-#include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
 namespace {

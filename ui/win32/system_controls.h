@@ -8,9 +8,9 @@
 
 #include <algorithm>
 
+#include "platform/win32/utf16.h"
 #include "ui/status_panels.h"
 #include "ui/win32/drawn.h"
-#include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
 

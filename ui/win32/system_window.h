@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/win32/owned.h"
+#include "platform/win32/utf16.h"
 #include "ui/rect.h"
-#include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
 
