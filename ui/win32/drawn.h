@@ -5,7 +5,6 @@
 #include <memory>
 #include <unordered_map>
 
-#include "ui/accessible_text.h"
 #include "ui/follower.h"
 #include "ui/text_fit.h"
 #include "ui/throttle.h"
@@ -36,7 +35,8 @@ struct Look {
 
 class Drawn : public SystemWindow {
   public:
-    // Made of the system's control of that class, above those that stand in the container already.
+    // Made of the system's control of that class, as the model has it, above those that stand in
+    // the container already.
     Drawn(const Control& control, const Look& look, HWND container, const wchar_t* windowClass,
           DWORD style);
 
@@ -45,7 +45,7 @@ class Drawn : public SystemWindow {
     virtual void Apply(Aspect aspect);
     // A neighbour came or went.
     virtual void Refit() {}
-    // The measures are new ones, or the control is. Takes over everything.
+    // The measures are new ones.
     virtual void Rescale();
 
   protected:
@@ -57,12 +57,11 @@ class Drawn : public SystemWindow {
     // OnTimer comes again and again after that time; the system knows none shorter than 10 ms.
     void StartTimer(std::chrono::milliseconds pause) const;
     void StopTimer() const { KillTimer(Handle(), kTimer); }
-    // OnTimer comes once the throttle lets the change be shown, which may be now.
+    // ShowNow comes once the throttle lets the change be shown, which may be at once.
     void ShowSoon(Throttle& throttle);
 
-    virtual void OnTimer() {}
-    // By which others find the control, and which the system's control writes.
-    [[nodiscard]] virtual std::string Text() const { return AccessibleTextOf(control_).name; }
+    virtual void ShowNow() {}
+    virtual void OnTimer();
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
     [[nodiscard]] virtual PixelRect PlaceNow() const { return Now().scale.PlaceOf(control_); }
 
@@ -72,6 +71,8 @@ class Drawn : public SystemWindow {
     const Look& look_;
 
   private:
+    void TakeFont() const;
+
     static constexpr UINT_PTR kTimer = 470;  // clear of those that the system's controls have
 
     HWND tips_ = nullptr;  // made with the first tool tip; belongs to the control's window

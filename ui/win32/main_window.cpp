@@ -39,7 +39,7 @@ const wchar_t* WindowClass() {
 }  // namespace
 
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
-    : SystemWindow(WindowClass(), kFrame, {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0}, nullptr),
+    : SystemWindow(WindowClass(), "", kFrame, {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0}, nullptr),
       model_(model),
       follower_(model, *this, std::move(clock)),
       look_{model, follower_, focused_, [this] { return inSystem_ == 0; }, nullptr},

@@ -26,8 +26,7 @@ class Factory : public ControlVisitor {
     template <typename Drawing, typename Kind>
     void Add(const Kind& control) {
         const HWND in = control.Container ? Made.at(control.Container)->Handle() : window_;
-        auto& made = Made[&control] = std::make_unique<Drawing>(control, look_, in);
-        made->Rescale();
+        Made[&control] = std::make_unique<Drawing>(control, look_, in);
     }
 
     const HWND window_;

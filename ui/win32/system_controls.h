@@ -21,14 +21,6 @@ class ButtonControl final : public DrawnAs<Button> {
         : DrawnAs(button, look, container, L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP) {}
 
   protected:
-    // To the system a single ampersand would be the mark of a shortcut.
-    [[nodiscard]] std::string Text() const override {
-        std::string text;
-        for (const char letter : model_.Caption.Get())
-            text.append(letter == '&' ? 2 : 1, letter);
-        return text;
-    }
-
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override {
         switch (message) {
             case WM_LBUTTONDOWN:
@@ -69,19 +61,19 @@ class ProgressBarControl final : public DrawnAs<ProgressBar> {
   public:
     ProgressBarControl(const ProgressBar& bar, const Look& look, HWND container)
         : DrawnAs(bar, look, container, PROGRESS_CLASSW, PBS_SMOOTH) {
+        SendMessageW(Handle(), PBM_SETRANGE32, 0, kBarSteps);
         ShowSteps(StepsDone(bar));
     }
 
     void Apply(Aspect aspect) override {
         Drawn::Apply(aspect);
-        if (aspect == Aspect::Visible) OnTimer();
+        if (aspect == Aspect::Visible) ShowNow();
         if (aspect == Aspect::Max) StartTimer(Throttle::kBar);  // the value that goes with it first
         if (aspect == Aspect::Value) ShowSoon(throttle_);
     }
 
   protected:
-    void OnTimer() override {
-        StopTimer();
+    void ShowNow() override {
         throttle_.WasShown();
         const PixelSize size = InsideOf(Handle());
         const int steps = StepsDone(model_);
@@ -94,12 +86,13 @@ class ProgressBarControl final : public DrawnAs<ProgressBar> {
 
   private:
     // The system lets the bar glide to a larger value, which lags behind; back to a smaller one it
-    // jumps.
+    // jumps. A full bar needs room for that.
     void ShowSteps(int steps) {
-        SendMessageW(Handle(), PBM_SETRANGE32, 0, kBarSteps + 1);
+        const bool full = steps == kBarSteps;
+        if (full) SendMessageW(Handle(), PBM_SETRANGE32, 0, kBarSteps + 1);
         for (const int shown : {steps + 1, steps})
             SendMessageW(Handle(), PBM_SETPOS, static_cast<WPARAM>(shown), 0);
-        SendMessageW(Handle(), PBM_SETRANGE32, 0, kBarSteps);
+        if (full) SendMessageW(Handle(), PBM_SETRANGE32, 0, kBarSteps);
         shown_ = steps;
     }
 
@@ -112,11 +105,13 @@ class ProgressBarControl final : public DrawnAs<ProgressBar> {
 class StatusBarControl final : public DrawnAs<StatusBar> {
   public:
     StatusBarControl(const StatusBar& bar, const Look& look, HWND container)
-        : DrawnAs(bar, look, container, STATUSCLASSNAMEW, CCS_NORESIZE | CCS_NOPARENTALIGN) {}
+        : DrawnAs(bar, look, container, STATUSCLASSNAMEW, CCS_NORESIZE | CCS_NOPARENTALIGN) {
+        Apply(Aspect::Top);
+    }
 
     void Apply(Aspect aspect) override {
         Drawn::Apply(aspect);
-        if (aspect == Aspect::Caption || aspect == Aspect::Text) Arrange();
+        Arrange();
     }
 
   protected:
@@ -152,7 +147,9 @@ class StatusBarControl final : public DrawnAs<StatusBar> {
 // A tick that falls due while the system has the thread is left out.
 class TimerControl final : public DrawnAs<Timer> {
   public:
-    using DrawnAs::DrawnAs;
+    TimerControl(const Timer& timer, const Look& look, HWND) : DrawnAs(timer, look, HWND_MESSAGE) {
+        Apply(Aspect::Enabled);
+    }
 
     void Apply(Aspect) override {
         model_.Enabled ? StartTimer(std::chrono::milliseconds(model_.Interval)) : StopTimer();
