@@ -1,6 +1,7 @@
 #include "ui/win32/drawn.h"
 
 #include <commctrl.h>
+#include <oleacc.h>
 #include <uxtheme.h>
 
 #include "platform/win32/utf16.h"
@@ -53,10 +54,17 @@ void Drawn::Apply(Aspect aspect) {
         case Aspect::Caption:
             SetText(TextOf(control_));
             Repaint();
+            Describe(control_);
             break;
         default:
             break;
     }
+}
+
+// What tells nothing but its own text has no description.
+void Drawn::Describe(const Control& control, DWORD part) const {
+    const std::string description = AccessibleTextOf(control).description;
+    if (!description.empty()) Annotate(Handle(), PROPID_ACC_DESCRIPTION, description, part);
 }
 
 void Drawn::Rescale() {
