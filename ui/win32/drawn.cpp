@@ -13,7 +13,7 @@ namespace {
 // By which others find the control, and which the system's control writes. On a button a single
 // ampersand would be the mark of a shortcut to it.
 std::string TextOf(const Control& control) {
-    const std::string name = AccessibleTextOf(control).name;
+    std::string name = AccessibleTextOf(control).name;
     if (!dynamic_cast<const Button*>(&control)) return name;
     std::string text;
     for (const char letter : name)
@@ -142,16 +142,15 @@ LRESULT Painted::OnMessage(UINT message, WPARAM first, LPARAM second) {
     }
 }
 
-// A text by way of a bitmap, so that nobody sees it come and go.
+// By way of a bitmap, so that nobody sees a text come and go.
 void Painted::PaintAll() {
     PAINTSTRUCT paint{};
     const HDC screen = BeginPaint(Handle(), &paint);
     const RECT inside = ToRect(InsideOf(Handle()));
     HDC memory = nullptr;
     const HPAINTBUFFER buffer =
-        control_.TextToRead().empty()
-            ? nullptr
-            : BeginBufferedPaint(screen, &inside, BPBF_COMPATIBLEBITMAP, nullptr, &memory);
+        IsPlain() ? nullptr
+                  : BeginBufferedPaint(screen, &inside, BPBF_COMPATIBLEBITMAP, nullptr, &memory);
     Paint(buffer ? memory : screen, inside);
     EndBufferedPaint(buffer, TRUE);
     EndPaint(Handle(), &paint);

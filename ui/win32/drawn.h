@@ -99,6 +99,8 @@ class Painted : public Drawn {
 
   protected:
     virtual void Paint(HDC context, const RECT& inside) = 0;
+    // Of one colour, in which nobody sees anything come and go.
+    [[nodiscard]] virtual bool IsPlain() const { return false; }
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 
   private:

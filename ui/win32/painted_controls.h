@@ -114,6 +114,8 @@ class ShapeControl final : public DrawnAs<Shape, Painted> {
         SetPlace(PlaceNow(), SWP_NOSIZE);
     }
 
+    [[nodiscard]] bool IsPlain() const override { return true; }
+
     void Paint(HDC context, const RECT& inside) override {
         Fill(context, inside, model_.Fill ? ToRef(*model_.Fill) : BackgroundIn(model_.Container));
         if (!model_.Fill) Outline(context, inside, GetSysColor(COLOR_BTNTEXT));
