@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "app/win32/program_folder.h"
-#include "ui/win32/object.h"
+#include "platform/win32/object.h"
 
 namespace keplin {
 

@@ -20,8 +20,8 @@
 #include "demo/win32/mark.h"
 #include "demo/win32/save_picture.h"
 #include "platform/path.h"
+#include "platform/win32/utf16.h"
 #include "simulator/faulty_device.h"
-#include "ui/win32/utf16.h"
 
 namespace keplin {
 namespace {

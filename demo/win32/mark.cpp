@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "ui/win32/utf16.h"
+#include "platform/win32/utf16.h"
 
 namespace keplin {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <wincodec.h>
 
+#include "platform/win32/object.h"
+#include "platform/win32/utf16.h"
 #include "ui/win32/gdi.h"
-#include "ui/win32/object.h"
-#include "ui/win32/utf16.h"
 
 namespace keplin {
 namespace {

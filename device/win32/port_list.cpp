@@ -8,23 +8,14 @@
 #include "platform/win32/owned.h"
 
 namespace keplin {
-namespace {
 
-using UniqueKey = Owned<HKEY, RegCloseKey>;
-
-// One value for each device: its name is the driver's, its text the port's.
-UniqueKey OpenDeviceMap() {
+// The system keeps one value for each device: its name is the driver's, its text the port's. The
+// names that matter are ASCII.
+std::vector<std::string> ComputerPorts() {
     HKEY key = nullptr;
     RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"HARDWARE\\DEVICEMAP\\SERIALCOMM", 0, KEY_READ, &key);
-    return UniqueKey(key);
-}
-
-}  // namespace
-
-// The names that matter are ASCII.
-std::vector<std::string> ComputerPorts() {
+    const Owned<HKEY, RegCloseKey> map(key);
     std::vector<std::string> names;
-    const UniqueKey map = OpenDeviceMap();
     for (DWORD i = 0; map; ++i) {
         std::array<char, 256> device{};
         std::array<char, 256> port{};

@@ -11,20 +11,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-using Work = std::function<void()>;
-
-DWORD WINAPI Run(void* work) {
-    const std::unique_ptr<Work> owned(static_cast<Work*>(work));
-    (*owned)();
-    return 0;
-}
-
 // Whether the work ended in time. Otherwise its thread stays behind with what it holds. A thread of
 // the system's: with std::thread of MinGW 12 a wait missed the end now and then, and the heap
 // broke.
-bool EndsWithin(std::chrono::milliseconds limit, Work work) {
+bool EndsWithin(std::chrono::milliseconds limit, std::function<void()> work) {
+    using Work = std::function<void()>;
+    const auto run = [](void* given) -> DWORD {
+        const std::unique_ptr<Work> owned(static_cast<Work*>(given));
+        (*owned)();
+        return 0;
+    };
     auto owned = std::make_unique<Work>(std::move(work));
-    const UniqueHandle thread = Own(CreateThread(nullptr, 0, Run, owned.get(), 0, nullptr));
+    const UniqueHandle thread = Own(CreateThread(nullptr, 0, run, owned.get(), 0, nullptr));
     if (!thread) return false;
     static_cast<void>(owned.release());  // the thread owns it now
     return WaitForSingleObject(thread.get(), static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;

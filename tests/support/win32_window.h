@@ -5,8 +5,8 @@
 
 #include <string>
 
+#include "platform/win32/utf16.h"
 #include "tests/support/shown_window.h"
-#include "ui/win32/utf16.h"
 #include "ui/win32/win32_desktop.h"
 
 namespace keplin::test {
@@ -15,6 +15,9 @@ namespace keplin::test {
 class Win32Window : public ShownWindow<win32::MainWindow, win32::Win32Desktop, WatchedLine> {
   protected:
     Win32Window() {
+        // Brings the controls of every page, which come with its first showing.
+        for (Page* page : {&model.PicProgram, &model.PicSetup, &model.PicGettingStarted})
+            Show(*page);
         SetActiveWindow(window.Handle());
         Settle();
     }

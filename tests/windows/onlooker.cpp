@@ -7,7 +7,7 @@
 #include <map>
 #include <string>
 
-#include "ui/win32/utf16.h"
+#include "platform/win32/utf16.h"
 
 namespace {
 

@@ -1,19 +1,41 @@
 #include "ui/win32/drawn.h"
 
 #include <commctrl.h>
+#include <oleacc.h>
 #include <uxtheme.h>
 
-#include "ui/win32/utf16.h"
+#include "platform/win32/utf16.h"
+#include "ui/accessible_text.h"
 
 namespace keplin::win32 {
+namespace {
+
+// By which others find the control, and which the system's control writes. On a button a single
+// ampersand would be the mark of a shortcut to it.
+std::string TextOf(const Control& control) {
+    std::string name = AccessibleTextOf(control).name;
+    if (!dynamic_cast<const Button*>(&control)) return name;
+    std::string text;
+    for (const char letter : name)
+        text.append(letter == '&' ? 2 : 1, letter);
+    return text;
+}
+
+DWORD StateOf(const Control& control) {
+    return (control.Visible ? WS_VISIBLE : 0) | (control.Enabled ? 0 : WS_DISABLED);
+}
+
+}  // namespace
 
 Drawn::Drawn(const Control& control, const Look& look, HWND container, const wchar_t* windowClass,
              DWORD style)
-    : SystemWindow(windowClass, WS_CHILD | WS_CLIPSIBLINGS | style,
+    : SystemWindow(windowClass, TextOf(control),
+                   WS_CHILD | WS_CLIPSIBLINGS | StateOf(control) | style,
                    look.measures->scale.PlaceOf(control), container),
       control_(control),
       look_(look) {
     SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    TakeFont();
 }
 
 void Drawn::Apply(Aspect aspect) {
@@ -30,19 +52,29 @@ void Drawn::Apply(Aspect aspect) {
             SetPlace(PlaceNow());
             break;
         case Aspect::Caption:
-            SetText(Text());
+            SetText(TextOf(control_));
             Repaint();
+            Describe(control_);
             break;
         default:
             break;
     }
 }
 
+// What tells nothing but its own text has no description.
+void Drawn::Describe(const Control& control, DWORD part) const {
+    const std::string description = AccessibleTextOf(control).description;
+    if (!description.empty()) Annotate(Handle(), PROPID_ACC_DESCRIPTION, description, part);
+}
+
 void Drawn::Rescale() {
+    TakeFont();
+    Apply(Aspect::Top);
+}
+
+void Drawn::TakeFont() const {
     const HFONT font = Now().fonts.Get(Now().fit.Font());
-    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
-    for (const Aspect aspect : {Aspect::Top, Aspect::Enabled, Aspect::Caption, Aspect::Visible})
-        Apply(aspect);
+    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
 }
 
 void Drawn::SetPlace(const PixelRect& place, UINT flags) const {
@@ -59,8 +91,7 @@ void Drawn::SetToolTip(std::size_t part, const RECT& where, const std::string& t
         SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, kWidest);
     }
     std::wstring wide = ToWide(text);
-    TTTOOLINFOW tool{sizeof tool, TTF_SUBCLASS, Handle(), part,   where,
-                     nullptr,     wide.data(),  0,        nullptr};
+    TTTOOLINFOW tool{sizeof tool, 0, Handle(), part, where, nullptr, wide.data(), 0, nullptr};
     const bool known = part < static_cast<std::size_t>(SendMessageW(tips_, TTM_GETTOOLCOUNT, 0, 0));
     for (const UINT message : {TTM_NEWTOOLRECTW, TTM_UPDATETIPTEXTW})
         SendMessageW(tips_, known ? message : TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
@@ -72,10 +103,20 @@ void Drawn::StartTimer(std::chrono::milliseconds pause) const {
 
 void Drawn::ShowSoon(Throttle& throttle) {
     const auto pause = throttle.Changed();
-    if (pause) pause->count() == 0 ? OnTimer() : StartTimer(*pause);
+    if (pause) pause->count() == 0 ? ShowNow() : StartTimer(*pause);
+}
+
+void Drawn::OnTimer() {
+    StopTimer();
+    ShowNow();
 }
 
 LRESULT Drawn::OnMessage(UINT message, WPARAM first, LPARAM second) {
+    // Not by TTF_SUBCLASS, which asks the system at each message whose it is.
+    if (tips_ && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+        MSG event{Handle(), message, first, second, 0, {}};
+        SendMessageW(tips_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&event));
+    }
     if (message != WM_TIMER || first != kTimer)
         return SystemWindow::OnMessage(message, first, second);
     OnTimer();
@@ -86,9 +127,13 @@ LRESULT Painted::OnMessage(UINT message, WPARAM first, LPARAM second) {
     switch (message) {
         case WM_ERASEBKGND:
             return 1;
+        case WM_NCPAINT:  // there is no frame
+            return 0;
         case WM_PAINT:
             PaintAll();
             return 0;
+        case WM_SETTEXT:  // upon which the system's control would paint it as well
+            return DefWindowProcW(Handle(), message, first, second);
         case WM_PRINTCLIENT:
             Paint(reinterpret_cast<HDC>(first), ToRect(InsideOf(Handle())));
             return 0;
@@ -104,7 +149,8 @@ void Painted::PaintAll() {
     const RECT inside = ToRect(InsideOf(Handle()));
     HDC memory = nullptr;
     const HPAINTBUFFER buffer =
-        BeginBufferedPaint(screen, &inside, BPBF_COMPATIBLEBITMAP, nullptr, &memory);
+        IsPlain() ? nullptr
+                  : BeginBufferedPaint(screen, &inside, BPBF_COMPATIBLEBITMAP, nullptr, &memory);
     Paint(buffer ? memory : screen, inside);
     EndBufferedPaint(buffer, TRUE);
     EndPaint(Handle(), &paint);

@@ -5,7 +5,6 @@
 #include <memory>
 #include <unordered_map>
 
-#include "ui/accessible_text.h"
 #include "ui/follower.h"
 #include "ui/text_fit.h"
 #include "ui/throttle.h"
@@ -36,7 +35,8 @@ struct Look {
 
 class Drawn : public SystemWindow {
   public:
-    // Made of the system's control of that class, above those that stand in the container already.
+    // Made of the system's control of that class, as the model has it, above those that stand in
+    // the container already.
     Drawn(const Control& control, const Look& look, HWND container, const wchar_t* windowClass,
           DWORD style);
 
@@ -45,7 +45,7 @@ class Drawn : public SystemWindow {
     virtual void Apply(Aspect aspect);
     // A neighbour came or went.
     virtual void Refit() {}
-    // The measures are new ones, or the control is. Takes over everything.
+    // The measures are new ones.
     virtual void Rescale();
 
   protected:
@@ -54,15 +54,16 @@ class Drawn : public SystemWindow {
     // Shows the text while the mouse rests there; "" shows nothing. `part` counts from 0, and a new
     // one follows the last.
     void SetToolTip(std::size_t part, const RECT& where, const std::string& text);
+    // Tells a screen reader what the text of the control, or of a panel of it, tells: see Annotate.
+    void Describe(const Control& control, DWORD part = 0) const;
     // OnTimer comes again and again after that time; the system knows none shorter than 10 ms.
     void StartTimer(std::chrono::milliseconds pause) const;
     void StopTimer() const { KillTimer(Handle(), kTimer); }
-    // OnTimer comes once the throttle lets the change be shown, which may be now.
+    // ShowNow comes once the throttle lets the change be shown, which may be at once.
     void ShowSoon(Throttle& throttle);
 
-    virtual void OnTimer() {}
-    // By which others find the control, and which the system's control writes.
-    [[nodiscard]] virtual std::string Text() const { return AccessibleTextOf(control_).name; }
+    virtual void ShowNow() {}
+    virtual void OnTimer();
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
     [[nodiscard]] virtual PixelRect PlaceNow() const { return Now().scale.PlaceOf(control_); }
 
@@ -72,6 +73,8 @@ class Drawn : public SystemWindow {
     const Look& look_;
 
   private:
+    void TakeFont() const;
+
     static constexpr UINT_PTR kTimer = 470;  // clear of those that the system's controls have
 
     HWND tips_ = nullptr;  // made with the first tool tip; belongs to the control's window
@@ -96,6 +99,8 @@ class Painted : public Drawn {
 
   protected:
     virtual void Paint(HDC context, const RECT& inside) = 0;
+    // Of one colour, in which nobody sees anything come and go.
+    [[nodiscard]] virtual bool IsPlain() const { return false; }
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 
   private:
@@ -104,11 +109,14 @@ class Painted : public Drawn {
 
 using DrawnControls = std::unordered_map<const Control*, std::unique_ptr<Drawn>>;
 
-// One control of the system in that window for each of the model, in the model's order; none for
-// the window itself, nor for a panel, which its bar draws. The look must outlive them.
-DrawnControls MakeControls(HWND window, const Look& look);
+// Adds one control of the system in that window for each of the model that has none yet, in the
+// model's order; none for the window itself, nor for a panel, which its bar draws, nor for what
+// stands on a page that is hidden: it would keep the first page waiting. The look must outlive
+// them.
+void MakeControls(DrawnControls& controls, HWND window, const Look& look);
 
-// Tells a screen reader a property of the control beyond what the system's tells by itself.
-void Annotate(HWND control, const GUID& property, const std::string& text);
+// Tells a screen reader a property of the control beyond what the system's tells by itself. `part`
+// counts from 1; 0 is the whole. Not before the first page: the speech would keep it waiting.
+void Annotate(HWND control, const GUID& property, const std::string& text, DWORD part = 0);
 
 }  // namespace keplin::win32

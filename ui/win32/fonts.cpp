@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "ui/win32/utf16.h"
+#include "platform/win32/utf16.h"
 
 namespace keplin::win32 {
 namespace {
@@ -16,16 +16,11 @@ struct Line {
     PixelRect place;  // from the top-left corner of the column
 };
 
-int Width(HDC context, std::wstring_view text) {
+// Its width, and the height of a line.
+PixelSize SizeOf(HDC context, std::wstring_view text) {
     SIZE size{};
     GetTextExtentPoint32W(context, text.data(), static_cast<int>(text.size()), &size);
-    return static_cast<int>(size.cx);
-}
-
-TEXTMETRICW Metrics(HDC context) {
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(context, &metrics);
-    return metrics;
+    return {static_cast<int>(size.cx), static_cast<int>(size.cy)};
 }
 
 // How many characters of the text the next line takes, blanks at its end included.
@@ -44,16 +39,15 @@ std::size_t LineLength(HDC context, std::wstring_view text, int width) {
 
 // With the font that is chosen into the context.
 std::vector<Line> LayOut(HDC context, std::wstring_view text, Alignment alignment, int width) {
-    const int height = static_cast<int>(Metrics(context).tmHeight);
     std::vector<Line> lines;
     while (!text.empty()) {
         const std::size_t length = LineLength(context, text, width);
         std::wstring_view line = text.substr(0, length);
         text.remove_prefix(length);
         if (!text.empty()) line = line.substr(0, line.find_last_not_of(L' ') + 1);
-        const int size = Width(context, line);
-        const int left = alignment == Alignment::Centre ? (width - size) / 2 : 0;
-        lines.push_back({line, {left, static_cast<int>(lines.size()) * height, size, height}});
+        const auto [wide, high] = SizeOf(context, line);
+        const int left = alignment == Alignment::Centre ? (width - wide) / 2 : 0;
+        lines.push_back({line, {left, static_cast<int>(lines.size()) * high, wide, high}});
     }
     return lines;
 }
@@ -61,10 +55,11 @@ std::vector<Line> LayOut(HDC context, std::wstring_view text, Alignment alignmen
 // What of the line is blackened; the whole of it in a font that has no outlines.
 Rect<double> InkOf(HDC context, const Line& line) {
     constexpr MAT2 kAsItIs{{0, 1}, {0, 0}, {0, 0}, {0, 1}};
-    const int base = line.place.top + static_cast<int>(Metrics(context).tmAscent);
-    PixelRect ink = line.place;
-    int top = ink.Bottom();
-    int bottom = ink.top;
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(context, &metrics);
+    const int base = line.place.top + static_cast<int>(metrics.tmAscent);
+    int top = line.place.Bottom();
+    int bottom = line.place.top;
     for (const wchar_t letter : line.text) {
         GLYPHMETRICS glyph{};
         if (letter == L' ') continue;
@@ -76,9 +71,7 @@ Rect<double> InkOf(HDC context, const Line& line) {
         top = std::min(top, above);
         bottom = std::max(bottom, above + static_cast<int>(glyph.gmBlackBoxY));
     }
-    ink.top = top;
-    ink.height = std::max(bottom - top, 0);
-    return Exactly(ink);
+    return Exactly(PixelRect{line.place.left, top, line.place.width, std::max(bottom - top, 0)});
 }
 
 }  // namespace
@@ -110,8 +103,7 @@ void Fonts::DrawWrapped(HDC context, const std::string& text, const TextFont& fo
 
 PixelSize Fonts::LineSize(const std::string& text, const TextFont& font) const {
     const Chosen chosen(context_.get(), Get(font));
-    const int height = static_cast<int>(Metrics(context_.get()).tmHeight);
-    return {Width(context_.get(), ToWide(text)), height};
+    return SizeOf(context_.get(), ToWide(text));
 }
 
 bool Fonts::HasFamily(const std::string& family) const {

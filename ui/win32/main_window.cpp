@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/win32/utf16.h"
+#include "platform/win32/utf16.h"
 
 namespace keplin::win32 {
 namespace {
@@ -13,11 +13,7 @@ namespace {
 // No maximise control: the size is fixed.
 constexpr DWORD kFrame = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
 
-// Alt or F10 alone. There is no menu bar, but the system would wait in it for the next key.
-bool OpensMenuBar(WPARAM command, LPARAM letter) {
-    constexpr WPARAM kOwnBits = 0x000F;  // of the system
-    return (command & ~kOwnBits) == SC_KEYMENU && letter == 0;
-}
+constexpr WPARAM kOwnBits = 0x000F;  // of a WM_SYSCOMMAND: the system's own
 
 // Registers it, with the classes of the controls, where that is not done yet.
 const wchar_t* WindowClass() {
@@ -39,13 +35,13 @@ const wchar_t* WindowClass() {
 }  // namespace
 
 MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
-    : SystemWindow(WindowClass(), kFrame, {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0}, nullptr),
+    : SystemWindow(WindowClass(), "", kFrame, {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0}, nullptr),
       model_(model),
       follower_(model, *this, std::move(clock)),
       look_{model, follower_, focused_, [this] { return inSystem_ == 0; }, nullptr},
       screenDots_(ScreenDots()) {
     Rescale();
-    drawn_ = MakeControls(Handle(), look_);
+    MakeControls(drawn_, Handle(), look_);
     // The focus shows from the start, not only after the first use of the keyboard.
     SendMessageW(Handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
     follower_.Start();
@@ -104,7 +100,8 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
                 SendMessageW(drawn->Handle(), message, first, second);
             break;
         case WM_SYSCOMMAND:
-            if (OpensMenuBar(first, second)) return 0;
+            // Alt or F10 alone. There is no menu bar, but the system would wait in it for a key.
+            if ((first & ~kOwnBits) == SC_KEYMENU && second == 0) return 0;
             return LeaveToSystem(message, first, second);
         case WM_NCLBUTTONDOWN:
         case WM_NCRBUTTONDOWN:
@@ -129,13 +126,17 @@ LRESULT MainWindow::LeaveToSystem(UINT message, WPARAM first, LPARAM second) {
 
 // A panel has no window of its own: what changes in it changes in its bar.
 void MainWindow::Apply(const Control& control, Aspect aspect) {
-    const auto found = drawn_.find(&control);
-    if (&control == &model_) {
-        ApplyToWindow(aspect);
-    } else {
-        (found == drawn_.end() ? drawn_.at(control.Container) : found->second)->Apply(aspect);
-    }
+    if (aspect == Aspect::Visible && control.Visible) MakeControls(drawn_, Handle(), look_);
+    const bool isPanel = dynamic_cast<const Panel*>(&control);
+    const auto found = drawn_.find(isPanel ? control.Container : &control);
+    if (found != drawn_.end()) found->second->Apply(aspect);
+    if (&control == &model_) ApplyToWindow(aspect);
     ShowInTaskbar(control);
+}
+
+void MainWindow::Refit(const Label& label) {
+    const auto found = drawn_.find(&label);
+    if (found != drawn_.end()) found->second->Refit();
 }
 
 // To a window that is not the active one the focus comes as soon as it is.

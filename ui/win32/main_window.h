@@ -35,7 +35,7 @@ class MainWindow final : public Drawing, public SystemWindow {
     std::function<void()> OnHelp;
 
     void Apply(const Control& control, Aspect aspect) override;
-    void Refit(const Label& label) override { drawn_.at(&label)->Refit(); }
+    void Refit(const Label& label) override;
     [[nodiscard]] const Button* Focused() const override { return focused_; }
     void Focus(const Button* button) override;
     void CallForAttention() override;

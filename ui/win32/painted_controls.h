@@ -83,7 +83,7 @@ class LabelControl final : public DrawnAs<Label, Painted> {
     }
 
   private:
-    TextFont font_;
+    TextFont font_ = Now().fit.FontOf(model_);
 };
 
 class PictureControl final : public DrawnAs<Picture, Painted> {
@@ -109,11 +109,12 @@ class ShapeControl final : public DrawnAs<Shape, Painted> {
 
   protected:
     // Only moves it: a width that changed with the rounding would shimmer.
-    void OnTimer() override {
-        StopTimer();
+    void ShowNow() override {
         throttle_.WasShown();
         SetPlace(PlaceNow(), SWP_NOSIZE);
     }
+
+    [[nodiscard]] bool IsPlain() const override { return true; }
 
     void Paint(HDC context, const RECT& inside) override {
         Fill(context, inside, model_.Fill ? ToRef(*model_.Fill) : BackgroundIn(model_.Container));

@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/win32/object.h"
+#include "platform/win32/utf16.h"
 #include "ui/win32/main_window.h"
-#include "ui/win32/object.h"
-#include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
 namespace {
@@ -126,12 +126,12 @@ bool MainWindow::IsHeard() const {
     return reader || (listening && listening());
 }
 
-void Annotate(HWND control, const GUID& property, const std::string& text) {
+void Annotate(HWND control, const GUID& property, const std::string& text, DWORD part) {
     static const auto properties =
         ObjectOf<IAccPropServices>(CLSID_AccPropServices, IID_IAccPropServices);
     const auto object = static_cast<DWORD>(OBJID_CLIENT);
     if (!properties) return;
-    properties->SetHwndPropStr(control, object, CHILDID_SELF, property, ToWide(text).c_str());
+    properties->SetHwndPropStr(control, object, part, property, ToWide(text).c_str());
 }
 
 void MainWindow::Describe(const Button& button, const std::string& news) {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/win32/owned.h"
+#include "platform/win32/utf16.h"
 #include "ui/rect.h"
-#include "ui/win32/utf16.h"
 
 namespace keplin::win32 {
 
@@ -12,10 +12,11 @@ inline constexpr UINT kPress = WM_APP;
 
 class SystemWindow {
   public:
-    // Hidden and without text; inside the container, or on the desktop where that is nullptr.
-    SystemWindow(const wchar_t* windowClass, DWORD style, const PixelRect& place, HWND container)
-        : handle_(CreateWindowExW(0, windowClass, nullptr, style, place.left, place.top,
-                                  place.width, place.height, container, nullptr,
+    // Inside the container, or on the desktop where that is nullptr.
+    SystemWindow(const wchar_t* windowClass, const std::string& text, DWORD style,
+                 const PixelRect& place, HWND container)
+        : handle_(CreateWindowExW(0, windowClass, ToWide(text).c_str(), style, place.left,
+                                  place.top, place.width, place.height, container, nullptr,
                                   GetModuleHandleW(nullptr), nullptr)),
           system_(reinterpret_cast<WNDPROC>(GetWindowLongPtrW(Handle(), GWLP_WNDPROC))) {
         SetWindowLongPtrW(Handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));

@@ -9,8 +9,8 @@
 #include <string>
 #include <utility>
 
-#include "ui/win32/object.h"
-#include "ui/win32/utf16.h"
+#include "platform/win32/object.h"
+#include "platform/win32/utf16.h"
 
 namespace keplin::win32 {
 namespace {
