@@ -105,6 +105,16 @@ TEST_F(Followers, TheFocusGoesToAButtonThatCanBePressed) {
     EXPECT_EQ(Focused(), "cmdExit") << "the technician has put it there";
 }
 
+TEST_F(Followers, TabGoesRoundAmongTheButtonsThatCanBePressed) {
+    Show(model.PicSetup);
+    std::string order;
+    for (const bool backwards : {false, false, false, true, true, true}) {
+        drawing.follower.MoveFocus(backwards);
+        order += Focused() + " ";
+    }
+    EXPECT_EQ(order, "cmdPortTest cmdExit Next_2 cmdExit cmdPortTest Next_2 ");
+}
+
 TEST_F(Followers, WhileAPressIsAtWorkALostFocusPressesNothing) {
     bool found = false;
     model.cmdPortTest.OnClick = [&] {

@@ -33,6 +33,13 @@ bool Button::CanBePressed() const {
     return Enabled && Shown();
 }
 
+std::string Button::CaptionWithoutShortcut() const {
+    std::string text;
+    for (const char letter : Caption.Get())
+        text.append(letter == '&' ? 2 : 1, letter);
+    return text;
+}
+
 void Button::Press() const {
     if (CanBePressed() && OnClick) OnClick();
 }

@@ -74,6 +74,9 @@ class Button : public Control {
     // A technician can press it now: it is shown and enabled.
     [[nodiscard]] bool CanBePressed() const;
 
+    // Its caption for a toolkit to which a single ampersand would be the mark of a shortcut.
+    [[nodiscard]] std::string CaptionWithoutShortcut() const;
+
     // What a click does; nothing while it cannot be pressed.
     void Press() const;
 

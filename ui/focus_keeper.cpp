@@ -38,6 +38,15 @@ void FocusKeeper::Press(const Button& button) {
     pressed_ = nullptr;
 }
 
+void FocusKeeper::Move(bool backwards) {
+    std::vector<const Button*> order = Pressable();
+    if (order.empty()) return;
+    if (backwards) std::reverse(order.begin(), order.end());
+    const auto focused = std::find(order.begin(), order.end(), drawing_.Focused());
+    const auto next = focused == order.end() ? focused : focused + 1;
+    drawing_.Focus(next == order.end() ? order.front() : *next);
+}
+
 std::vector<const Button*> FocusKeeper::Pressable() const {
     std::vector<const Button*> pressable;
     std::copy_if(buttons_.begin(), buttons_.end(), std::back_inserter(pressable),

@@ -29,6 +29,10 @@ class FocusKeeper {
     // the pressed one again, another on the page, or one beside the pages.
     void Press(const Button& button);
 
+    // Gives the focus to the next button in tab order that can be pressed, or to the one before it;
+    // from the last it goes to the first.
+    void Move(bool backwards);
+
   private:
     [[nodiscard]] std::vector<const Button*> Pressable() const;
     // Which button the focus goes to, the best first.

@@ -45,6 +45,9 @@ class Follower : public Observer {
     // A key goes down while the button has the focus. `repeated`: it has been down all the time.
     [[nodiscard]] KeyEffect KeyDown(const Button& button, PressKey key, bool repeated) const;
 
+    // Tab goes down, or Shift and Tab, where the toolkit does not move the focus by itself.
+    void MoveFocus(bool backwards) { focus_.Move(backwards); }
+
     // A press is complete: by the mouse, by a key, or by a screen reader. Returns when all that the
     // press does is done, which may be an update.
     void Press(const Button& button) { focus_.Press(button); }

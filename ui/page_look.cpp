@@ -19,6 +19,12 @@ std::optional<Colour> TextColourOf(const Label& label) {
     return std::nullopt;
 }
 
+std::optional<Colour> BackgroundBehind(const Control& control) {
+    if (const auto* frame = dynamic_cast<const Frame*>(control.Container)) return frame->Background;
+    if (const auto* page = dynamic_cast<const Page*>(control.Container)) return page->Background;
+    return std::nullopt;
+}
+
 Colour OutlineOn(Colour background) {
     return {Darker(background.red), Darker(background.green), Darker(background.blue)};
 }

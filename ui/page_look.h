@@ -11,6 +11,9 @@ inline constexpr Colour kBlack{0, 0, 0};
 // Nothing where the text has the colour that the desktop gives to the texts of a window.
 std::optional<Colour> TextColourOf(const Label& label);
 
+// On what the control stands: the colour of its frame or page; nothing where that is the window.
+std::optional<Colour> BackgroundBehind(const Control& control);
+
 // The outline of a frame on a background: the same, darker. That of a label is black.
 Colour OutlineOn(Colour background);
 

@@ -1,32 +1,15 @@
 #include "device/win32/win32_port.h"
 
-#include <chrono>
 #include <cstring>
-#include <functional>
 #include <memory>
 #include <new>
+
+#include "platform/win32/ends_within.h"
 
 namespace keplin {
 namespace {
 
 using namespace std::chrono_literals;
-
-// Whether the work ended in time. Otherwise its thread stays behind with what it holds. A thread of
-// the system's: with std::thread of MinGW 12 a wait missed the end now and then, and the heap
-// broke.
-bool EndsWithin(std::chrono::milliseconds limit, std::function<void()> work) {
-    using Work = std::function<void()>;
-    const auto run = [](void* given) -> DWORD {
-        const std::unique_ptr<Work> owned(static_cast<Work*>(given));
-        (*owned)();
-        return 0;
-    };
-    auto owned = std::make_unique<Work>(std::move(work));
-    const UniqueHandle thread = Own(CreateThread(nullptr, 0, run, owned.get(), 0, nullptr));
-    if (!thread) return false;
-    static_cast<void>(owned.release());  // the thread owns it now
-    return WaitForSingleObject(thread.get(), static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
-}
 
 // Nothing holds back, changes or drops a byte.
 void SetRaw(DCB& settings) {
@@ -56,11 +39,9 @@ bool Configure(HANDLE line) {
 }
 
 bool SetTimes(HANDLE line) {
-    COMMTIMEOUTS times{.ReadIntervalTimeout = MAXDWORD,
-                       .ReadTotalTimeoutMultiplier = 0,
-                       .ReadTotalTimeoutConstant = 0,
-                       .WriteTotalTimeoutMultiplier = 0,
-                       .WriteTotalTimeoutConstant = 500};
+    COMMTIMEOUTS times{};
+    times.ReadIntervalTimeout = MAXDWORD;  // a read returns at once
+    times.WriteTotalTimeoutConstant = 500;
     return SetCommTimeouts(line, &times) != 0;
 }
 

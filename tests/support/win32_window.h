@@ -15,9 +15,6 @@ namespace keplin::test {
 class Win32Window : public ShownWindow<win32::MainWindow, win32::Win32Desktop, WatchedLine> {
   protected:
     Win32Window() {
-        // Brings the controls of every page, which come with its first showing.
-        for (Page* page : {&model.PicProgram, &model.PicSetup, &model.PicGettingStarted})
-            Show(*page);
         SetActiveWindow(window.Handle());
         Settle();
     }

@@ -35,9 +35,8 @@ void ButtonWidget::Apply(Aspect aspect) {
     if (aspect == Aspect::Caption) ApplyCaption();
 }
 
-// To Qt a single ampersand would be the mark of a shortcut.
 void ButtonWidget::ApplyCaption() {
-    setText(ToQt(button_.Caption).replace('&', "&&"));
+    setText(ToQt(button_.CaptionWithoutShortcut()));
 }
 
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {

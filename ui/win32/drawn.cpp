@@ -1,7 +1,6 @@
 #include "ui/win32/drawn.h"
 
 #include <commctrl.h>
-#include <oleacc.h>
 #include <uxtheme.h>
 
 #include "platform/win32/utf16.h"
@@ -10,15 +9,10 @@
 namespace keplin::win32 {
 namespace {
 
-// By which others find the control, and which the system's control writes. On a button a single
-// ampersand would be the mark of a shortcut to it.
+// By which others find the control, and which the system's control writes.
 std::string TextOf(const Control& control) {
-    std::string name = AccessibleTextOf(control).name;
-    if (!dynamic_cast<const Button*>(&control)) return name;
-    std::string text;
-    for (const char letter : name)
-        text.append(letter == '&' ? 2 : 1, letter);
-    return text;
+    const auto* button = dynamic_cast<const Button*>(&control);
+    return button ? button->CaptionWithoutShortcut() : AccessibleTextOf(control).name;
 }
 
 DWORD StateOf(const Control& control) {
@@ -54,17 +48,10 @@ void Drawn::Apply(Aspect aspect) {
         case Aspect::Caption:
             SetText(TextOf(control_));
             Repaint();
-            Describe(control_);
             break;
         default:
             break;
     }
-}
-
-// What tells nothing but its own text has no description.
-void Drawn::Describe(const Control& control, DWORD part) const {
-    const std::string description = AccessibleTextOf(control).description;
-    if (!description.empty()) Annotate(Handle(), PROPID_ACC_DESCRIPTION, description, part);
 }
 
 void Drawn::Rescale() {

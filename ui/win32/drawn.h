@@ -54,8 +54,6 @@ class Drawn : public SystemWindow {
     // Shows the text while the mouse rests there; "" shows nothing. `part` counts from 0, and a new
     // one follows the last.
     void SetToolTip(std::size_t part, const RECT& where, const std::string& text);
-    // Tells a screen reader what the text of the control, or of a panel of it, tells: see Annotate.
-    void Describe(const Control& control, DWORD part = 0) const;
     // OnTimer comes again and again after that time; the system knows none shorter than 10 ms.
     void StartTimer(std::chrono::milliseconds pause) const;
     void StopTimer() const { KillTimer(Handle(), kTimer); }
@@ -109,14 +107,12 @@ class Painted : public Drawn {
 
 using DrawnControls = std::unordered_map<const Control*, std::unique_ptr<Drawn>>;
 
-// Adds one control of the system in that window for each of the model that has none yet, in the
-// model's order; none for the window itself, nor for a panel, which its bar draws, nor for what
-// stands on a page that is hidden: it would keep the first page waiting. The look must outlive
-// them.
-void MakeControls(DrawnControls& controls, HWND window, const Look& look);
+// One control of the system in that window for each of the model, in the model's order; none for
+// the window itself, nor for a panel, which its bar draws. The look must outlive them.
+DrawnControls MakeControls(HWND window, const Look& look);
 
-// Tells a screen reader a property of the control beyond what the system's tells by itself. `part`
-// counts from 1; 0 is the whole. Not before the first page: the speech would keep it waiting.
-void Annotate(HWND control, const GUID& property, const std::string& text, DWORD part = 0);
+// Tells a screen reader a property of the control beyond what the system's tells by itself. Not
+// before the first page: the speech would keep it waiting.
+void Annotate(HWND control, const GUID& property, const std::string& text);
 
 }  // namespace keplin::win32

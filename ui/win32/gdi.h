@@ -1,34 +1,21 @@
-// What is drawn with: objects of the system that are freed with their owner.
+// How the model's places, colours and pictures come into a context of the system.
 #pragma once
 
 #include <windows.h>
 
-#include "platform/win32/owned.h"
+#include "platform/win32/gdi_objects.h"
 #include "ui/controls.h"
 #include "ui/rect.h"
 
 namespace keplin::win32 {
 
-template <typename Handle>
-using Gdi = Owned<Handle, DeleteObject>;
-using MemoryContext = Owned<HDC, DeleteDC>;
-
-// An object that is chosen into a context for as long as this exists.
-class Chosen {
-  public:
-    Chosen(HDC context, HGDIOBJ object)
-        : context_(context), before_(SelectObject(context, object)) {}
-    ~Chosen() { SelectObject(context_, before_); }
-    Chosen(const Chosen&) = delete;
-    Chosen& operator=(const Chosen&) = delete;
-
-  private:
-    const HDC context_;
-    const HGDIOBJ before_;
-};
-
 inline COLORREF ToRef(Colour colour) {
     return RGB(colour.red, colour.green, colour.blue);
+}
+
+// `system`: the number of the system's colour that stands for none.
+inline COLORREF ToRef(const std::optional<Colour>& colour, int system) {
+    return colour ? ToRef(*colour) : GetSysColor(system);
 }
 
 inline RECT ToRect(const PixelRect& rect) {

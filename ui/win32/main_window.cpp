@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/win32/utf16.h"
@@ -12,8 +11,6 @@ namespace {
 
 // No maximise control: the size is fixed.
 constexpr DWORD kFrame = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
-
-constexpr WPARAM kOwnBits = 0x000F;  // of a WM_SYSCOMMAND: the system's own
 
 // Registers it, with the classes of the controls, where that is not done yet.
 const wchar_t* WindowClass() {
@@ -41,7 +38,7 @@ MainWindow::MainWindow(ISPMain& model, PressGuard::Clock clock)
       look_{model, follower_, focused_, [this] { return inSystem_ == 0; }, nullptr},
       screenDots_(ScreenDots()) {
     Rescale();
-    MakeControls(drawn_, Handle(), look_);
+    drawn_ = MakeControls(Handle(), look_);
     // The focus shows from the start, not only after the first use of the keyboard.
     SendMessageW(Handle(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
     follower_.Start();
@@ -77,7 +74,7 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
             if (focused_) SetFocus(HandleOf(*focused_));
             return 0;
         case WM_KEYDOWN:
-            if (first == VK_TAB) MoveFocus(GetKeyState(VK_SHIFT) < 0);
+            if (first == VK_TAB) follower_.MoveFocus(GetKeyState(VK_SHIFT) < 0);
             break;
         case WM_HELP:
             if (OnHelp) OnHelp();
@@ -101,7 +98,8 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
             break;
         case WM_SYSCOMMAND:
             // Alt or F10 alone. There is no menu bar, but the system would wait in it for a key.
-            if ((first & ~kOwnBits) == SC_KEYMENU && second == 0) return 0;
+            // The last four bits are the system's own.
+            if ((first & ~WPARAM{0xF}) == SC_KEYMENU && second == 0) return 0;
             return LeaveToSystem(message, first, second);
         case WM_NCLBUTTONDOWN:
         case WM_NCRBUTTONDOWN:
@@ -126,33 +124,19 @@ LRESULT MainWindow::LeaveToSystem(UINT message, WPARAM first, LPARAM second) {
 
 // A panel has no window of its own: what changes in it changes in its bar.
 void MainWindow::Apply(const Control& control, Aspect aspect) {
-    if (aspect == Aspect::Visible && control.Visible) MakeControls(drawn_, Handle(), look_);
     const bool isPanel = dynamic_cast<const Panel*>(&control);
-    const auto found = drawn_.find(isPanel ? control.Container : &control);
-    if (found != drawn_.end()) found->second->Apply(aspect);
-    if (&control == &model_) ApplyToWindow(aspect);
+    if (&control == &model_) {
+        ApplyToWindow(aspect);
+    } else {
+        drawn_.at(isPanel ? control.Container : &control)->Apply(aspect);
+    }
     ShowInTaskbar(control);
-}
-
-void MainWindow::Refit(const Label& label) {
-    const auto found = drawn_.find(&label);
-    if (found != drawn_.end()) found->second->Refit();
 }
 
 // To a window that is not the active one the focus comes as soon as it is.
 void MainWindow::Focus(const Button* button) {
     focused_ = button;
     if (GetActiveWindow() == Handle()) SetFocus(button ? HandleOf(*button) : Handle());
-}
-
-void MainWindow::MoveFocus(bool backwards) {
-    std::vector<const Button*> order = follower_.TabOrder();
-    if (backwards) std::reverse(order.begin(), order.end());
-    const auto next = std::find(order.begin(), order.end(), focused_);
-    if (next != order.end()) std::rotate(order.begin(), next + 1, order.end());
-    const auto found = std::find_if(order.begin(), order.end(),
-                                    [](const Button* button) { return button->CanBePressed(); });
-    if (found != order.end()) Focus(*found);
 }
 
 // The fonts before it live on until every control has a new one.

@@ -35,7 +35,7 @@ class MainWindow final : public Drawing, public SystemWindow {
     std::function<void()> OnHelp;
 
     void Apply(const Control& control, Aspect aspect) override;
-    void Refit(const Label& label) override;
+    void Refit(const Label& label) override { drawn_.at(&label)->Refit(); }
     [[nodiscard]] const Button* Focused() const override { return focused_; }
     void Focus(const Button* button) override;
     void CallForAttention() override;
@@ -47,7 +47,6 @@ class MainWindow final : public Drawing, public SystemWindow {
   private:
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
     LRESULT LeaveToSystem(UINT message, WPARAM first, LPARAM second);
-    void MoveFocus(bool backwards);
     void ShowInTaskbar(const Control& changed);
 
     [[nodiscard]] UINT ScreenDots() const;

@@ -5,7 +5,7 @@
 #include <commctrl.h>
 #include <oleacc.h>
 
-#include <algorithm>
+#include <utility>
 
 #include "platform/win32/utf16.h"
 #include "ui/status_panels.h"
@@ -67,7 +67,7 @@ class ProgressBarControl final : public DrawnAs<ProgressBar> {
 
     void Apply(Aspect aspect) override {
         Drawn::Apply(aspect);
-        if (aspect == Aspect::Visible) ShowNow();
+        if (aspect == Aspect::Visible || aspect == Aspect::Top) ShowNow();
         if (aspect == Aspect::Max) StartTimer(Throttle::kBar);  // the value that goes with it first
         if (aspect == Aspect::Value) ShowSoon(throttle_);
     }
@@ -110,9 +110,6 @@ class StatusBarControl final : public DrawnAs<StatusBar> {
     void Apply(Aspect aspect) override {
         Drawn::Apply(aspect);
         Arrange();
-        if (aspect != Aspect::Text) return;
-        for (DWORD i = 1; i <= model_.PanelCount(); ++i)
-            Describe(model_.Panels(i), i);
     }
 
   protected:
@@ -164,8 +161,7 @@ class TimerControl final : public DrawnAs<Timer> {
 
 class Factory : public ControlVisitor {
   public:
-    Factory(DrawnControls& controls, HWND window, const Look& look)
-        : controls_(controls), window_(window), look_(look) {}
+    Factory(HWND window, const Look& look) : window_(window), look_(look) {}
 
     void Visit(const Form&) override {}
     void Visit(const Page& page) override { Add<Container<Page>>(page); }
@@ -179,27 +175,26 @@ class Factory : public ControlVisitor {
     void Visit(const Panel&) override {}
     void Visit(const Timer& timer) override { Add<TimerControl>(timer); }
 
+    DrawnControls Made;
+
   private:
     template <typename Drawing, typename Kind>
     void Add(const Kind& control) {
-        const HWND in = control.Container ? controls_.at(control.Container)->Handle() : window_;
-        controls_[&control] = std::make_unique<Drawing>(control, look_, in);
+        const HWND in = control.Container ? Made.at(control.Container)->Handle() : window_;
+        Made[&control] = std::make_unique<Drawing>(control, look_, in);
     }
 
-    DrawnControls& controls_;
     const HWND window_;
     const Look& look_;
 };
 
 }  // namespace
 
-void MakeControls(DrawnControls& controls, HWND window, const Look& look) {
-    Factory factory(controls, window, look);
-    for (const Control* control : look.model.Controls()) {
-        const bool inSight =
-            control->Container == nullptr || (look.model.Visible && control->Container->Shown());
-        if (inSight && !controls.contains(control)) control->Accept(factory);
-    }
+DrawnControls MakeControls(HWND window, const Look& look) {
+    Factory factory(window, look);
+    for (const Control* control : look.model.Controls())
+        control->Accept(factory);
+    return std::move(factory.Made);
 }
 
 }  // namespace keplin::win32

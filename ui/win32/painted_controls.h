@@ -48,13 +48,6 @@ class FrameControl final : public Container<Frame> {
     }
 };
 
-// The colour on which a control stands that is inside this container; nullptr is the window.
-inline COLORREF BackgroundIn(const Control* container) {
-    if (const auto* frame = dynamic_cast<const Frame*>(container)) return ToRef(frame->Background);
-    if (const auto* page = dynamic_cast<const Page*>(container)) return ToRef(page->Background);
-    return GetSysColor(COLOR_BTNFACE);
-}
-
 class LabelControl final : public DrawnAs<Label, Painted> {
   public:
     using DrawnAs::DrawnAs;
@@ -73,11 +66,10 @@ class LabelControl final : public DrawnAs<Label, Painted> {
     // On the colour of its container, which shows through it: what of a neighbour below it lies
     // there is blank.
     void Paint(HDC context, const RECT& inside) override {
-        const auto& background = model_.Style.background;
-        Fill(context, inside, background ? ToRef(*background) : BackgroundIn(model_.Container));
+        const auto& own = model_.Style.background;
+        Fill(context, inside, ToRef(own ? own : BackgroundBehind(model_), COLOR_BTNFACE));
         if (model_.Style.border) Outline(context, inside, ToRef(kBlack));
-        const auto colour = TextColourOf(model_);
-        SetTextColor(context, colour ? ToRef(*colour) : GetSysColor(COLOR_BTNTEXT));
+        SetTextColor(context, ToRef(TextColourOf(model_), COLOR_BTNTEXT));
         Now().fonts.DrawWrapped(context, model_.Caption, font_, model_.Style.alignment,
                                 Now().fit.AreaOf(model_));
     }
@@ -92,7 +84,7 @@ class PictureControl final : public DrawnAs<Picture, Painted> {
 
   protected:
     void Paint(HDC context, const RECT& inside) override {
-        Fill(context, inside, BackgroundIn(model_.Container));
+        Fill(context, inside, ToRef(BackgroundBehind(model_), COLOR_BTNFACE));
         DrawImage(context, model_.Shows, InsideOf(Handle()));
     }
 };
@@ -117,7 +109,8 @@ class ShapeControl final : public DrawnAs<Shape, Painted> {
     [[nodiscard]] bool IsPlain() const override { return true; }
 
     void Paint(HDC context, const RECT& inside) override {
-        Fill(context, inside, model_.Fill ? ToRef(*model_.Fill) : BackgroundIn(model_.Container));
+        Fill(context, inside,
+             ToRef(model_.Fill ? model_.Fill : BackgroundBehind(model_), COLOR_BTNFACE));
         if (!model_.Fill) Outline(context, inside, GetSysColor(COLOR_BTNTEXT));
     }
 

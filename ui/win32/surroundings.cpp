@@ -126,12 +126,12 @@ bool MainWindow::IsHeard() const {
     return reader || (listening && listening());
 }
 
-void Annotate(HWND control, const GUID& property, const std::string& text, DWORD part) {
+void Annotate(HWND control, const GUID& property, const std::string& text) {
     static const auto properties =
         ObjectOf<IAccPropServices>(CLSID_AccPropServices, IID_IAccPropServices);
     const auto object = static_cast<DWORD>(OBJID_CLIENT);
     if (!properties) return;
-    properties->SetHwndPropStr(control, object, part, property, ToWide(text).c_str());
+    properties->SetHwndPropStr(control, object, CHILDID_SELF, property, ToWide(text).c_str());
 }
 
 void MainWindow::Describe(const Button& button, const std::string& news) {

@@ -4,13 +4,10 @@
 #include <mmsystem.h>
 
 #include <algorithm>
-#include <array>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
 #include "platform/win32/object.h"
-#include "platform/win32/utf16.h"
 
 namespace keplin::win32 {
 namespace {
@@ -21,7 +18,6 @@ using std::chrono::steady_clock;
 constexpr milliseconds kLateness{1};   // how late the system may wake a sleeper
 constexpr DWORD kLongestWait = 2;      // milliseconds
 constexpr DWORD kBetweenChecks = 500;  // milliseconds
-constexpr int kLongestText = 80;       // characters of a date or a time
 constexpr DWORD kLongestPath = 32768;
 
 // Whatever the program waits for from now on ends within a millisecond, until the process does.
@@ -120,24 +116,6 @@ std::optional<std::string> Win32Desktop::AskForFile(const OpenFileRequest& reque
     BeginObjects();
     if (!ask(&dialog)) return std::nullopt;
     return ToUtf8(path.c_str());
-}
-
-std::string Win32Desktop::FileDateTime(const std::string& path) {
-    WIN32_FILE_ATTRIBUTE_DATA facts{};
-    SYSTEMTIME universal{};
-    SYSTEMTIME time{};
-    if (!GetFileAttributesExW(ToWide(path).c_str(), GetFileExInfoStandard, &facts) ||
-        !FileTimeToSystemTime(&facts.ftLastWriteTime, &universal) ||
-        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &time)) {
-        throw std::runtime_error("no date of " + path);
-    }
-    std::array<wchar_t, kLongestText> date{};
-    std::array<wchar_t, kLongestText> clock{};
-    GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &time, nullptr, date.data(),
-                    kLongestText, nullptr);
-    GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, TIME_NOSECONDS, &time, nullptr, clock.data(),
-                    kLongestText);
-    return ToUtf8(date.data()) + " " + ToUtf8(clock.data());
 }
 
 // A system that ends the session asks the window first, and shows this where it refuses.

@@ -3,6 +3,7 @@
 
 #include "platform/standard_desktop.h"
 #include "platform/watched_line.h"
+#include "platform/win32/file_date.h"
 #include "ui/win32/main_window.h"
 
 namespace keplin::win32 {
@@ -17,7 +18,7 @@ class Win32Desktop : public StandardDesktop {
 
     void YieldOnce() override;
     void Sleep(std::chrono::milliseconds duration) override;
-    std::string FileDateTime(const std::string& path) override;
+    std::string FileDateTime(const std::string& path) override { return FileDate(path); }
     void KeepAwake(bool awake) override;
 
   private:
