@@ -16,8 +16,6 @@ class FixedReply : public keplin::SerialPort {
 
     void PortNumber(std::int32_t) override {}
     void LineSpeed(std::int32_t) override {}
-    void Setting3(std::int32_t) override {}
-    void Setting47(std::int32_t) override {}
     std::int32_t Open() override { return 1; }
     std::int32_t Close() override { return 0; }
     std::int32_t ReadByte() override {
@@ -25,7 +23,6 @@ class FixedReply : public keplin::SerialPort {
         time_.ReadNothing();
         return -1;
     }
-    void WriteByte(std::uint8_t) override {}
     void DiscardInput() override {}
     void WriteText(std::string_view) override {}
     [[nodiscard]] bool LineLost() const override { return false; }

@@ -24,8 +24,6 @@ class VirtualPort : public SerialPort {
 
     void PortNumber(std::int32_t number) override { number_ = number; }
     void LineSpeed(std::int32_t) override {}
-    void Setting3(std::int32_t) override {}
-    void Setting47(std::int32_t) override {}
 
     std::int32_t Open() override {
         kept_.clear();
@@ -43,7 +41,6 @@ class VirtualPort : public SerialPort {
         if (!byte) time_.ReadNothing(&wire_);
         return byte ? *byte : -1;
     }
-    void WriteByte(std::uint8_t byte) override { Send(std::string(1, static_cast<char>(byte))); }
     void DiscardInput() override {
         if (!Connected()) return;
         wire_.DropArrived(time_.Now);
