@@ -25,6 +25,7 @@
 
 #include "platform/posix/unique_fd.h"
 #include "tests/support/qt_window.h"
+#include "ui/qt/open_dialog.h"
 
 namespace keplin::test {
 namespace {
@@ -118,7 +119,9 @@ class QtDialog : public QtWindow {
             act(*dialog);
             if (dialog->isVisible()) dialog->reject();
         });
-        return desktop.ShowOpen({"QDX-470 Files (*.HEX)|*.HEX", "Select", Path(""), true});
+        const OpenFileRequest request{"QDX-470 Files (*.HEX)|*.HEX", "Select", Path(""), true};
+        return mounts.isEmpty() ? desktop.ShowOpen(request)
+                                : qt::AskForFile(window, request, {mounts});
     }
 
     std::optional<std::string> Type(const std::string& text) {
@@ -155,6 +158,7 @@ class QtDialog : public QtWindow {
     }
 
     const QTemporaryDir folder;
+    QString mounts;  // where a desktop mounts what is plugged in, if not where each does
 };
 
 TEST_F(QtDialog, WhatIsTypedCountsWithOneReturnWhetherOrNotThereIsSuchAFile) {
@@ -171,6 +175,8 @@ TEST_F(QtDialog, ShowsTheNewestFileFirstInCapitalsOrNot) {
     const QTemporaryDir home;
     QDir(home.path()).mkdir("Downloads");
     qputenv("HOME", QFile::encodeName(home.path()));
+    mounts = home.path();
+    const auto watchersOfPlaces = [&] { return window.findChildren<QFileSystemWatcher*>(); };
     int age = 0;
     for (const char* name : {"3.txt", "5.HEX", "2.hex", "6.HEX", "1.HEX", "7.hex", "4.HEX"})
         MakeFile(name, ++age);
@@ -183,6 +189,13 @@ TEST_F(QtDialog, ShowsTheNewestFileFirstInCapitalsOrNot) {
         EXPECT_EQ(places.mid(0, 2), (QList{QUrl::fromLocalFile(home.filePath("Downloads")),
                                            QUrl::fromLocalFile(home.path())}));
         EXPECT_EQ(places.last(), QUrl("file:"));
+        const QString user = home.filePath(QFileInfo(home.path()).owner());
+        const QUrl stick = QUrl::fromLocalFile(user + "/STICK");
+        QDir().mkdir(user);
+        EXPECT_TRUE(
+            Until([&] { return watchersOfPlaces().at(0)->directories().contains(user); }));
+        QDir().mkdir(stick.toLocalFile());
+        EXPECT_TRUE(Until([&] { return dialog.sidebarUrls().contains(stick); }));
         for (const auto& [view, column] :
              std::initializer_list<std::pair<const char*, int>>{{"treeView", 3}, {"sidebar", 0}}) {
             auto* list = dialog.findChild<QAbstractItemView*>(view);
@@ -191,7 +204,6 @@ TEST_F(QtDialog, ShowsTheNewestFileFirstInCapitalsOrNot) {
                 << view << column;
         }
     });
-    const auto watchersOfPlaces = [&] { return window.findChildren<QFileSystemWatcher*>(); };
     EXPECT_TRUE(Until([&] { return watchersOfPlaces().isEmpty(); })) << "the dialog is closed";
 }
 
