@@ -21,7 +21,7 @@ void UseAll() {
     QImage image(4, 512, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(QColor(0, 0, 255, 128));
+    painter.setOpacity(0.5);
     painter.drawEllipse(image.rect());
 }
 

@@ -103,8 +103,6 @@ std::optional<std::string> AskForFile(QWidget& window, const OpenFileRequest& re
                                       const QStringList& mounts) {
     auto* dialog = new QFileDialog(&window, ToQt(request.title));
     dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setAcceptMode(QFileDialog::AcceptOpen);
-    dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setNameFilter(ToQt(request.filter.substr(0, request.filter.find('|'))));
     dialog->setDirectory(QFile::decodeName(request.initialDirectory.c_str()));
     ShowPlaces(*dialog, mounts);
