@@ -10,7 +10,6 @@
 #include <QFileSystemWatcher>
 #include <QLineEdit>
 #include <QLocale>
-#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
@@ -162,7 +161,6 @@ TEST_F(QtDialog, WhatIsTypedCountsWithOneReturnWhetherOrNotThereIsSuchAFile) {
         EXPECT_EQ(Type(Path(name)), Path(name));
     }
     EXPECT_EQ(Type(Path("a")), std::nullopt);
-    EXPECT_EQ(Type("a\rthere.HEX"), Path("a/there.HEX"));
 }
 
 TEST_F(QtDialog, ShowsTheNewestFileFirstInCapitalsOrNot) {
@@ -177,10 +175,8 @@ TEST_F(QtDialog, ShowsTheNewestFileFirstInCapitalsOrNot) {
         MakeFile(name, ++age);
     // As another program, or a technician, left it.
     QSettings(QSettings::UserScope, "QtProject").setValue("FileDialog/viewMode", "List");
-    window.setScreen(QApplication::screens().back());
     const auto chosen = Ask([&](QFileDialog& dialog) {
         const char* newestFirst = "5.HEX 2.hex 6.HEX 1.HEX 7-seventh-file.hex 4.HEX";
-        EXPECT_LE(dialog.height(), window.screen()->size().height());
         EXPECT_TRUE(Until([&] { return NamesIn(dialog) == newestFirst; })) << NamesIn(dialog);
         EXPECT_EQ(dialog.selectedNameFilter(), "QDX-470 Files (*.HEX)");
         EXPECT_EQ(dialog.windowTitle(), "Select");
