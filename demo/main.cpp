@@ -11,12 +11,10 @@
 #include "app/qt/application.h"
 #include "app/qt/manual_key.h"
 #include "app/qt/program.h"
-#include "demo/change_printer.h"
 #include "demo/controller.h"
 #include "demo/mark.h"
 #include "demo/options.h"
 #include "demo/outcome.h"
-#include "demo/stage_pictures.h"
 #include "demo/walk.h"
 #include "platform/path.h"
 
@@ -28,39 +26,24 @@ class Demonstration {
     explicit Demonstration(DemoOptions options)
         : options_(std::move(options)),
           controller_(std::make_unique<DemoController>(options_.port, options_.faults)),
-          program_([this] { return controller_->DevicePaths(); }, Hooks()),
-          ribbon_(MarkAsDemonstration(program_.drawing)),
-          pictures_(
-              program_.window, [this](const std::string& path) { return SaveWindow(path); },
-              options_.pictures),
-          walk_(
-              program_.window, [this](const Button& button) { Press(button); }, pictures_,
-              options_.again) {
+          program_([this] { return controller_->DevicePaths(); },
+                   HooksOf(options_, [this] { return End(); })),
+          ribbon_(MarkAsDemonstration(program_.drawing)) {
         OpenManualOnF1(program_.drawing);
     }
 
     int Run() {
-        // The open-file dialog starts here.
-        std::error_code gone;
-        std::filesystem::current_path(ToPath(options_.file).parent_path(), gone);
         if (options_.walk) {
-            printer_.emplace(program_.window);
-            QTimer::singleShot(0, [this] { walk_.Go(); });
+            walk_.emplace(
+                program_.window, options_, [this](const Button& button) { Press(button); },
+                [this](const std::string& path) { return SaveWindow(path); });
+            QTimer::singleShot(0, [this] { walk_->Go(); });
         }
         program_.session.Main();
         return QApplication::exec();
     }
 
   private:
-    StandardDesktop::Hooks Hooks() {
-        StandardDesktop::Hooks hooks;
-        if (options_.walk) {
-            hooks.openFile = [this](const OpenFileRequest&) { return options_.file; };
-        }
-        hooks.beforeEnd = [this] { return End(); };
-        return hooks;
-    }
-
     // The exit code: 0 when nothing was to be done, or was done and is true.
     int End() {
         const DemoController::Memory memory = controller_->ReadMemory();
@@ -84,9 +67,7 @@ class Demonstration {
     std::unique_ptr<DemoController> controller_;
     Program program_;
     QWidget& ribbon_;
-    StagePictures pictures_;
-    Walk walk_;
-    std::optional<ChangePrinter> printer_;
+    std::optional<Walk> walk_;
 };
 
 // The installed programs and those of a build find the sample in the same place beside them.

@@ -1,13 +1,32 @@
 #include "demo/walk.h"
 
+#include <filesystem>
 #include <iostream>
 #include <string>
 #include <utility>
 
+#include "platform/path.h"
+
 namespace keplin {
 
-Walk::Walk(const ISPMain& model, PressButton press, StagePictures& pictures, bool again)
-    : model_(model), press_(std::move(press)), pictures_(pictures), again_(again) {}
+StandardDesktop::Hooks HooksOf(const DemoOptions& options, std::function<int()> beforeEnd) {
+    StandardDesktop::Hooks hooks{{}, std::move(beforeEnd)};
+    if (options.walk) {
+        hooks.openFile = [file = options.file](const OpenFileRequest&) { return file; };
+    } else {
+        std::error_code gone;
+        std::filesystem::current_path(ToPath(options.file).parent_path(), gone);
+    }
+    return hooks;
+}
+
+Walk::Walk(ISPMain& model, const DemoOptions& options, PressButton press,
+           StagePictures::SaveWindow save)
+    : model_(model),
+      again_(options.again),
+      press_(std::move(press)),
+      pictures_(model, std::move(save), options.pictures),
+      printer_(model) {}
 
 void Walk::Go() {
     ReachEnd();

@@ -1,5 +1,9 @@
 // The serial port as every system has it: which line of this computer is opened, and whether it is
 // still there. An adapter adds how the system opens, closes, reads and writes one.
+//
+// WriteByte and WriteText end within 500 ms, and a Close where the line is lost. They throw
+// PortError when the port is closed, the line is lost or the device does not take the bytes in that
+// time. What it has not taken by then never leaves.
 #pragma once
 
 #include <string>
@@ -22,10 +26,6 @@ class LinePort : public SerialPort, public Watched {
     void PortNumber(std::int32_t number) override { portNumber_ = number; }
     // 38400; with any other the next Open fails.
     void LineSpeed(std::int32_t bitsPerSecond) override { lineSpeed_ = bitsPerSecond; }
-    // Means nothing to these adapters.
-    void Setting3(std::int32_t) override {}
-    // Means nothing to these adapters.
-    void Setting47(std::int32_t) override {}
 
     // 1 when the port is open now, 0 when it is not: see OpenLine, also for how long it may take.
     // Closes the port that was open before.
@@ -40,14 +40,6 @@ class LinePort : public SerialPort, public Watched {
         CloseLine();
         lost_ = false;
         return 0;
-    }
-
-    // This and WriteText end within 500 ms, and a Close where the line is lost. They throw
-    // PortError when the port is closed, the line is lost or the device does not take the bytes in
-    // that time. What it has not taken by then never leaves.
-    void WriteByte(std::uint8_t byte) override {
-        const char character = static_cast<char>(byte);
-        WriteText({&character, 1});
     }
 
     // Noticed by a read, a write, a discard or CheckLine; the line is let go of at once. Ends with

@@ -1,5 +1,5 @@
 // The serial port control: ten members, each with the numeric identifier that the control knows it
-// by, and two beside them for a line that is lost.
+// by, and two beside them for a line that is lost. The two settings mean nothing to most ports.
 #pragma once
 
 #include <cstdint>
@@ -23,9 +23,9 @@ class SerialPort {
     // 2: in bits a second, for the next Open.
     virtual void LineSpeed(std::int32_t bitsPerSecond) = 0;
     // 3: given as 0 before each Open.
-    virtual void Setting3(std::int32_t value) = 0;
+    virtual void Setting3(std::int32_t) {}
     // 47: given as -1 immediately before the DiscardInput that precedes a transmission.
-    virtual void Setting47(std::int32_t value) = 0;
+    virtual void Setting47(std::int32_t) {}
 
     // 31: a positive status when the port is open now, 0 or -1 when it is not.
     virtual std::int32_t Open() = 0;
@@ -33,8 +33,11 @@ class SerialPort {
     virtual std::int32_t Close() = 0;
     // 33: the next received byte, 0 to 255, or -1 when none is waiting. Returns at once.
     virtual std::int32_t ReadByte() = 0;
-    // 35: sends one byte.
-    virtual void WriteByte(std::uint8_t byte) = 0;
+    // 35: sends one byte, as a text of one character unless the port has another way.
+    virtual void WriteByte(std::uint8_t byte) {
+        const char character = static_cast<char>(byte);
+        WriteText({&character, 1});
+    }
     // 56: drops what was received and not read.
     virtual void DiscardInput() = 0;
     // 57: sends the characters of a text, one byte each, in order, adding nothing.

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "simulator/faults.h"
@@ -37,8 +38,10 @@ class FaultyDevice final : public DeviceEnd {
   public:
     static constexpr std::size_t kBabbleBytes = 8192;  // 2.1 s on the wire
 
-    // `loader` must outlive the device, and be restarted only between exchanges.
-    FaultyDevice(Loader& loader, std::uint32_t seed) : loader_(loader), random_(seed) {}
+    // `loader` must outlive the device, and be restarted only between exchanges. `faults`: see
+    // Inject.
+    FaultyDevice(Loader& loader, std::uint32_t seed, std::vector<FaultAt> faults = {})
+        : loader_(loader), random_(seed), faults_(std::move(faults)) {}
 
     // Adds a fault. Where two strike at the same exchange, the one added first does.
     void Inject(FaultAt fault) { faults_.push_back(fault); }

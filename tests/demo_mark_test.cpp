@@ -24,14 +24,17 @@ TEST_F(QtWindow, TheDemonstrationIsMarkedOnEveryPageAndHidesNothingButTheIcon) {
         const QImage plain = window.grab().toImage();
         ribbon.show();
         int covered = 0;
+        int letters = 0;
         for (int i = 0; i < plain.width() * plain.height(); ++i) {
             const QPoint at(i % plain.width(), i / plain.width());
             if (marked.pixel(at) == plain.pixel(at)) continue;
             ++covered;
+            if (qGreen(marked.pixel(at)) > 200) ++letters;
             if (icon.contains(QPointF(at) / plain.devicePixelRatio())) continue;
             ASSERT_EQ(plain.pixel(at), plain.pixel(2, 2)) << page->Name << at.x() << "," << at.y();
         }
         EXPECT_GT(covered, 2000) << page->Name;
+        EXPECT_GT(letters, 200) << page->Name;
     }
 }
 

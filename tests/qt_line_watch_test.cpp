@@ -36,12 +36,11 @@ TEST_F(LineWatch, AByteThatNobodyReadsKeepsNoLoopInsideAWaitBusy) {
 
 TEST_F(LineWatch, AHangUpIsToldOnceByTheEventLoopAloneAndNoUnreadByteIsTakenForOne) {
     PseudoTerminal far;
-    UniqueFd opened = OpenLine(far.Path());
+    const UniqueFd opened = OpenLine(far.Path());
     int told = 0;
     line.OnCheck = [&] {
         ++told;
         line.OnLineChange(-1);
-        opened.Reset();
     };
     line.OnLineChange(opened.Get());
     far.Send("noise\n");

@@ -1,9 +1,11 @@
 #include "tests/support/qt_window.h"
 
 #include <QAccessible>
+#include <QDir>
 #include <QGroupBox>
 #include <QHelpEvent>
 #include <QProgressBar>
+#include <QResource>
 #include <QScreen>
 #include <QToolTip>
 #include <thread>
@@ -20,8 +22,12 @@ TEST_F(QtWindow, EveryControlStandsInItsPlace) {
     EXPECT_EQ(window.minimumSize(), window.maximumSize());
     EXPECT_EQ(window.windowTitle(), "  Keplin For QDX-470");
     EXPECT_EQ(window.windowFlags() & Qt::WindowMinMaxButtonsHint, Qt::WindowMinimizeButtonHint);
-    for (const int size : {8, 16, 24}) {  // of a pixel ratio of two
-        const QImage icon = window.windowIcon().pixmap(size).toImage();
+    const QStringList prepared = QDir(":/").entryList({"keplin*x*"});
+    EXPECT_EQ(prepared.size(), window.windowIcon().availableSizes().size());
+    for (const QString& name : prepared) {
+        const int size = name.section('x', -1).toInt();
+        const QImage icon = window.windowIcon().pixmap(size / 2).toImage();  // ratio two
+        EXPECT_EQ(icon, QImage(QResource(":/" + name).data(), size, size, icon.format())) << size;
         EXPECT_EQ(icon.pixelColor(icon.width() / 2, icon.width() / 8), QColor(255, 208, 48))
             << "no arrow";
     }
@@ -38,6 +44,8 @@ TEST_F(QtWindow, EveryControlStandsInItsPlace) {
         const QRectF pixels(control->Left / 15, control->Top / 15, control->Width / 15,
                             control->Height / 15);
         EXPECT_EQ(QRectF(widget->geometry()), pixels) << control->Name;
+        const auto* button = qobject_cast<const QPushButton*>(widget);
+        EXPECT_FALSE(button && button->text().isEmpty()) << control->Name;
         ++checked;
     }
     EXPECT_EQ(checked, 33);
@@ -56,13 +64,23 @@ TEST_F(QtWindow, FollowsTheModel) {
     EXPECT_FALSE(Find(model.PicSetup)->isVisible() || Find(model.Shape2)->isVisible());
     Show(model.PicSetup);
     EXPECT_TRUE(Find(model.cmdPortTest)->isVisible());
+    model.cmdPortTest.Enabled = false;
+    EXPECT_FALSE(Find(model.cmdPortTest)->isEnabled());
     desktop.YieldOnce();
     bool repainted = false;
     const WhenPainted painted(*Find(model.Frame1), [&] { repainted = true; });
     model.Frame1.Caption = "Setup";
     EXPECT_TRUE(Until([&] { return repainted; }));
+    for (Control* control : std::initializer_list<Control*>{&model.Image1, &model.ProgressBar1}) {
+        control->Visible = false;
+        EXPECT_TRUE(Find(*control)->isHidden());
+    }
     model.WindowState = Form::State::Minimised;
     EXPECT_TRUE(window.isMinimized());
+    model.Visible = false;
+    EXPECT_FALSE(window.isVisible());
+    ISPMain unseen;
+    EXPECT_FALSE(qt::MainWindow(unseen).isVisible());
 }
 
 TEST_F(QtWindow, ClicksAndKeysPressWhatCanBePressed) {
@@ -148,6 +166,8 @@ TEST_F(QtWindow, TheProgressBarIsRepaintedNowAndThenAndAtTheEnd) {
 
 TEST_F(QtWindow, PanelsShareTheirBarAndShortenALongPath) {
     const auto* file = Find<QLabel>(model.StatusBar1.Panels(1));
+    EXPECT_EQ(file->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    EXPECT_EQ(Find<QLabel>(model.StatusBar2.Panels(3))->alignment(), Qt::AlignCenter);
     EXPECT_EQ(Find(model.StatusBar1.Panels(2))->geometry().left(), 622 - 133);
     EXPECT_EQ(Find(model.StatusBar2.Panels(2))->geometry().left(), 207);
     std::string path = " /<b>" + std::string(200, 'x') + "/UPDATE.HEX";

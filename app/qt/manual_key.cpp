@@ -1,16 +1,14 @@
 #include "app/qt/manual_key.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
 #include <QShortcut>
 
+#include "app/manual_due.h"
+
 namespace keplin {
 namespace {
-
-// A browser takes its time to come, and the key is pressed again: one manual is enough.
-constexpr int kPatience = 3000;  // milliseconds
 
 // The installed programs and those of a build find the manual in the same place beside them.
 QString ManualPath() {
@@ -18,13 +16,13 @@ QString ManualPath() {
         .canonicalFilePath();
 }
 
-// A process of its own: the key may be pressed while a record waits for its reply.
+// A process of its own: the key may be pressed while a record waits for its reply. An empty path
+// opens nothing.
 void OpenManual() {
-    const QString manual = ManualPath();
-    if (manual.isEmpty()) return;
+    if (!IsManualDue()) return;
     QProcess opener;
     opener.setProgram("xdg-open");
-    opener.setArguments({manual});
+    opener.setArguments({ManualPath()});
     opener.setStandardInputFile(QProcess::nullDevice());
     opener.setStandardOutputFile(QProcess::nullDevice());
     opener.setStandardErrorFile(QProcess::nullDevice());
@@ -35,12 +33,7 @@ void OpenManual() {
 
 void OpenManualOnF1(QWidget& window) {
     auto* key = new QShortcut(QKeySequence::HelpContents, &window);
-    key->setAutoRepeat(false);
-    QObject::connect(key, &QShortcut::activated, [last = QElapsedTimer()]() mutable {
-        if (last.isValid() && !last.hasExpired(kPatience)) return;
-        last.start();
-        OpenManual();
-    });
+    QObject::connect(key, &QShortcut::activated, OpenManual);
 }
 
 }  // namespace keplin

@@ -4,24 +4,18 @@
 // Behind it.
 #include <shellapi.h>
 
-#include <chrono>
 #include <filesystem>
 
+#include "app/manual_due.h"
 #include "app/win32/program_folder.h"
 #include "platform/win32/object.h"
 
 namespace keplin {
 
-// A browser takes its time to come, and the key is pressed again: one manual is enough.
 void OpenManual() {
-    using std::chrono::steady_clock;
-    constexpr std::chrono::seconds kPatience{3};
-    static steady_clock::time_point last;
-    if (steady_clock::now() - last < kPatience) return;
-    last = steady_clock::now();
     const std::filesystem::path manual = ProgramFolder() / "manual" / "manual.html";
     std::error_code failed;
-    if (!std::filesystem::exists(manual, failed)) return;
+    if (!std::filesystem::exists(manual, failed) || !IsManualDue()) return;
     SHELLEXECUTEINFOW open{};
     open.cbSize = sizeof open;
     open.fMask = SEE_MASK_ASYNCOK | SEE_MASK_FLAG_NO_UI;

@@ -27,11 +27,6 @@ std::int32_t InProcessPort::ReadByte() {
     return byte ? *byte : -1;
 }
 
-void InProcessPort::WriteByte(std::uint8_t byte) {
-    const char character = static_cast<char>(byte);
-    WriteText({&character, 1});
-}
-
 void InProcessPort::WriteText(std::string_view text) {
     if (open_ == 0 || lost_) throw PortError("there is no line");
     mayWait_ = false;  // a reply may be there by the next yield

@@ -24,12 +24,9 @@ class InProcessPort : public SerialPort, public WatchedLine {
 
     void PortNumber(std::int32_t number) override { number_ = number; }
     void LineSpeed(std::int32_t) override {}
-    void Setting3(std::int32_t) override {}
-    void Setting47(std::int32_t) override {}
     std::int32_t Open() override;
     std::int32_t Close() override { return open_ = 0; }
     std::int32_t ReadByte() override;
-    void WriteByte(std::uint8_t byte) override;
     void DiscardInput() override;
     void WriteText(std::string_view text) override;
     [[nodiscard]] bool LineLost() const override { return lost_; }

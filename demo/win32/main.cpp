@@ -11,10 +11,8 @@
 
 #include "app/win32/program.h"
 #include "app/win32/program_folder.h"
-#include "demo/change_printer.h"
 #include "demo/options.h"
 #include "demo/outcome.h"
-#include "demo/stage_pictures.h"
 #include "demo/walk.h"
 #include "demo/win32/in_process_port.h"
 #include "demo/win32/mark.h"
@@ -32,43 +30,25 @@ class Demonstration {
   public:
     explicit Demonstration(DemoOptions options)
         : options_(std::move(options)),
-          program_(PluggedIn{WithFaults(), options_.port}, Hooks()),
-          ribbon_(MarkAsDemonstration(program_.drawing, program_.window)),
-          pictures_(
-              program_.window, [this](const std::string& path) { return SaveWindow(path); },
-              options_.pictures),
-          walk_(
-              program_.window, [this](const Button& button) { Press(button); }, pictures_,
-              options_.again) {}
+          controller_(loader_, kSeed, options_.faults),
+          program_(PluggedIn{controller_, options_.port},
+                   HooksOf(options_, [this] { return End(); })),
+          ribbon_(MarkAsDemonstration(program_.drawing, program_.window)) {}
 
     [[noreturn]] void Run() {
-        // The open-file dialog starts here.
-        std::error_code gone;
-        std::filesystem::current_path(ToPath(options_.file).parent_path(), gone);
         if (!options_.walk) program_.Run();
-        printer_.emplace(program_.window);
+        Walk walk(
+            program_.window, options_, [this](const Button& button) { Press(button); },
+            [this](const std::string& path) { return SaveWindow(path); });
         program_.session.Main();
         program_.desktop.YieldOnce();
-        walk_.Go();
+        walk.Go();
         program_.desktop.Run();
     }
 
   private:
-    simulator::FaultyDevice& WithFaults() {
-        for (const simulator::FaultAt& fault : options_.faults)
-            controller_.Inject(fault);
-        return controller_;
-    }
-
-    StandardDesktop::Hooks Hooks() {
-        StandardDesktop::Hooks hooks;
-        if (options_.walk) {
-            hooks.openFile = [this](const OpenFileRequest&) { return options_.file; };
-        }
-        hooks.beforeEnd = [this] {
-            return EndOfDemo(options_, program_.window.UpdateComplete(), loader_.Memory().Cells());
-        };
-        return hooks;
+    int End() {
+        return EndOfDemo(options_, program_.window.UpdateComplete(), loader_.Memory().Cells());
     }
 
     // As the button itself reports it; what it does is done in the next yield.
@@ -89,12 +69,9 @@ class Demonstration {
 
     DemoOptions options_;
     simulator::Loader loader_;
-    simulator::FaultyDevice controller_{loader_, kSeed};
+    simulator::FaultyDevice controller_;
     WindowsProgram<InProcessPort> program_;
     const HWND ribbon_;
-    StagePictures pictures_;
-    Walk walk_;
-    std::optional<ChangePrinter> printer_;
 };
 
 // The command line in UTF-8.

@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -58,10 +59,8 @@ class QtWindow : public ShownWindow<qt::MainWindow, QtDesktop, WatchedDescriptor
                        std::abs(qBlue(pixel) - colour.blue()) <
                    60;
         };
-        for (int i = 0; i < image.width() * image.height(); ++i) {
-            if (isNear(image.pixel(i % image.width(), i / image.width()))) return true;
-        }
-        return false;
+        const auto* pixels = reinterpret_cast<const QRgb*>(image.constBits());
+        return std::any_of(pixels, pixels + image.sizeInBytes() / 4, isNear);
     }
 
     std::string Focused() {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <functional>
 #include <utility>
@@ -54,6 +55,25 @@ class ShownWindow : public testing::Test {
         while (!condition() && std::chrono::steady_clock::now() < end)
             desktop.YieldOnce();
         return condition();
+    }
+
+    struct Times {
+        std::chrono::nanoseconds all{};
+        std::chrono::nanoseconds shortest = std::chrono::seconds(1);
+    };
+
+    // How long yields take, in which the line asks for a wait or does not.
+    Times FiftyYields(bool wait) {
+        Times times;
+        for (int i = 0; i < 50; ++i) {
+            const auto start = std::chrono::steady_clock::now();
+            line.MayWait = wait;
+            desktop.YieldOnce();
+            EXPECT_FALSE(line.MayWait);
+            const auto time = std::chrono::steady_clock::now() - start;
+            times = {times.all + time, std::min<std::chrono::nanoseconds>(times.shortest, time)};
+        }
+        return times;
     }
 
     ISPMain model;

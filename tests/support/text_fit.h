@@ -75,7 +75,7 @@ inline bool IsCutOff(QLabel& label) {
 }
 
 inline bool IsWhole(QLabel& label) {
-    if (!label.wordWrap()) {
+    if (label.frameShape() != QFrame::NoFrame) {  // a panel, which has one line
         return !IsCutOff(label) && label.fontMetrics().height() <= label.contentsRect().height();
     }
     const QRect ink = InkOf(label);

@@ -16,7 +16,7 @@ class DrawingThreads {
   private:
     void Keep();
 
-    QTimer again_;
+    QTimer timer_;
     bool there_ = false;
 };
 

@@ -5,24 +5,11 @@
 namespace keplin::qt {
 
 void ApplyCommon(QWidget& widget, const Control& control, const Scale& scale, Aspect aspect) {
-    switch (aspect) {
-        case Aspect::Visible:
-            widget.setVisible(control.Visible);
-            break;
-        case Aspect::Enabled:
-            widget.setEnabled(control.Enabled);
-            break;
-        case Aspect::Left:
-        case Aspect::Top:
-        case Aspect::Height:
-            widget.setGeometry(ToQt(scale.PlaceOf(control)));
-            break;
-        case Aspect::Caption:
-            TellWhatItIs(widget, control);
-            break;
-        default:
-            break;
-    }
+    if (aspect == Aspect::Visible) widget.setVisible(control.Visible);
+    if (aspect == Aspect::Enabled) widget.setEnabled(control.Enabled);
+    if (aspect == Aspect::Left || aspect == Aspect::Top || aspect == Aspect::Height)
+        widget.setGeometry(ToQt(scale.PlaceOf(control)));
+    if (aspect == Aspect::Caption) TellWhatItIs(widget, control);
 }
 
 void SetUp(QWidget& widget, const Control& control, const Scale& scale) {

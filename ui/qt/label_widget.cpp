@@ -6,7 +6,6 @@ namespace keplin::qt {
 
 LabelWidget::LabelWidget(const Label& label, const Look& look, QWidget* parent)
     : QLabel(parent), label_(label), look_(look) {
-    setWordWrap(true);
     SetUp(*this, label, look.scale);
     setText(ToQt(label.Caption));
     Refit();

@@ -29,7 +29,6 @@ void LineWatch::Watch(int descriptor) {
     Replace(byte_, descriptor, QSocketNotifier::Read);
     Replace(loss_, descriptor, QSocketNotifier::Exception);
     if (descriptor < 0) return;
-    byte_->setEnabled(false);
     QObject::connect(byte_.get(), &QSocketNotifier::activated, byte_.get(),
                      [byte = byte_.get()] { byte->setEnabled(false); });
     QObject::connect(loss_.get(), &QSocketNotifier::activated, loss_.get(),
@@ -47,9 +46,7 @@ void LineWatch::ProcessEvents() {
 void LineWatch::AwaitByteOrEvent() {
     if (byte_) byte_->setEnabled(true);
     limit_.start();
-    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-    limit_.stop();
-    if (byte_) byte_->setEnabled(false);
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 }  // namespace keplin::qt

@@ -29,7 +29,7 @@ class LineWatch {
 
     WatchedDescriptor& line_;
     QTimer limit_;
-    std::unique_ptr<QSocketNotifier> byte_;  // awake only while waiting
+    std::unique_ptr<QSocketNotifier> byte_;  // awake from a wait's begin to the first byte
     std::unique_ptr<QSocketNotifier> loss_;
 };
 

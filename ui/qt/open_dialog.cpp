@@ -20,21 +20,21 @@ namespace {
 
 enum Column { kName, kSize, kType, kDate };  // as Qt's dialog numbers them
 
-// Where desktops mount what is plugged in, outermost folder first.
-QStringList MountFolders() {
-    const QString user = QFileInfo(QDir::homePath()).owner();
-    return {"/media", "/media/" + user, "/run/media", "/run/media/" + user};
+QStringList OfTheUser(const QStringList& mounts) {
+    QStringList folders;
+    for (const QString& folder : mounts)
+        folders << folder + '/' + QFileInfo(QDir::homePath()).owner();
+    return folders;
 }
 
 // The places at which an update file may have arrived.
-QList<QUrl> Places() {
+QList<QUrl> Places(const QStringList& mounts) {
     QStringList folders;
     for (const auto place : {QStandardPaths::DownloadLocation, QStandardPaths::DesktopLocation,
                              QStandardPaths::DocumentsLocation, QStandardPaths::HomeLocation}) {
         folders << QStandardPaths::writableLocation(place);
     }
-    const QStringList mounts = MountFolders();
-    for (const QString& parent : {mounts[1], mounts[3]}) {
+    for (const QString& parent : OfTheUser(mounts)) {
         for (const QFileInfo& mount : QDir(parent).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot))
             folders << mount.filePath();
     }
@@ -47,26 +47,18 @@ QList<QUrl> Places() {
 
 // A stick that is plugged in while the dialog stands open appears. Later the places are left alone:
 // looking at one that hangs would hold up an update.
-void ShowPlaces(QFileDialog& dialog) {
+void ShowPlaces(QFileDialog& dialog, const QStringList& mounts) {
     const int small = dialog.style()->pixelMetric(QStyle::PM_SmallIconSize);
     auto* bar = dialog.findChild<QListView*>("sidebar");
-    const auto show = [&dialog, bar] {
-        dialog.setSidebarUrls(Places());
-        if (bar != nullptr) bar->setMinimumWidth(bar->sizeHintForColumn(0) + 2 * bar->frameWidth());
-    };
     if (bar != nullptr) bar->setIconSize(QSize(small, small));
     auto* watcher = new QFileSystemWatcher(&dialog);
-    QObject::connect(&dialog, &QDialog::finished, watcher, &QObject::deleteLater);
-    const auto watch = [watcher] {
-        for (const QString& folder : MountFolders()) {
-            if (QFileInfo(folder).isDir()) watcher->addPath(folder);
-        }
+    const auto show = [&dialog, mounts, bar, watcher] {
+        watcher->addPaths(mounts + OfTheUser(mounts));  // those that are there
+        dialog.setSidebarUrls(Places(mounts));
+        if (bar != nullptr) bar->setMinimumWidth(bar->sizeHintForColumn(0) + 2 * bar->frameWidth());
     };
-    QObject::connect(watcher, &QFileSystemWatcher::directoryChanged, &dialog, [=] {
-        watch();
-        show();
-    });
-    watch();
+    QObject::connect(watcher, &QFileSystemWatcher::directoryChanged, &dialog, show);
+    QObject::connect(&dialog, &QDialog::finished, watcher, &QObject::deleteLater);
     show();
 }
 
@@ -107,14 +99,13 @@ void FitToScreen(QFileDialog& dialog, const QWidget& window) {
 
 // The dialog belongs to the window and is not deleted here: it would write what it remembers of
 // itself into a file of settings. Qt's own dialog matches names in capitals or not.
-std::optional<std::string> AskForFile(QWidget& window, const OpenFileRequest& request) {
+std::optional<std::string> AskForFile(QWidget& window, const OpenFileRequest& request,
+                                      const QStringList& mounts) {
     auto* dialog = new QFileDialog(&window, ToQt(request.title));
     dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setAcceptMode(QFileDialog::AcceptOpen);
-    dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setNameFilter(ToQt(request.filter.substr(0, request.filter.find('|'))));
     dialog->setDirectory(QFile::decodeName(request.initialDirectory.c_str()));
-    ShowPlaces(*dialog);
+    ShowPlaces(*dialog, mounts);
     ShowNewestFirst(*dialog);
     FitToScreen(*dialog, window);
     TakeWhatIsTyped(*dialog);

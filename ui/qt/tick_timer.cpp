@@ -6,11 +6,9 @@ TickTimer::TickTimer(const Timer& timer, QObject* parent) : QTimer(parent), time
     setObjectName(ToQt(timer.Name));
     setInterval(timer.Interval);
     callOnTimeout(this, [this] { timer_.Tick(); });
-    Apply(Aspect::Enabled);
 }
 
-void TickTimer::Apply(Aspect aspect) {
-    if (aspect != Aspect::Enabled) return;
+void TickTimer::Apply(Aspect) {
     if (timer_.Enabled) {
         start();
     } else {
