@@ -4,6 +4,7 @@
 #include <deque>
 #include <optional>
 
+#include "app/program.h"
 #include "device/com_ports.h"
 #include "device/port_search.h"
 #include "device/reply_verdict.h"
@@ -77,6 +78,11 @@ struct OnScript : testing::Test, VirtualScreen {
     ScriptedPort port{*this};
     DeviceExchange controller{port, desktop};
 };
+
+TEST_F(OnScript, TheEndOfTheProgramClosesThePortFirst) {
+    port.Expect("Close");
+    EXPECT_EQ(ClosingFirst(port, {}).beforeEnd(), 0);
+}
 
 struct DeviceExchanges : OnScript {
     void ExpectRecord(const std::string& record, const std::string& reply) {

@@ -25,10 +25,8 @@
 #include <utility>
 #include <vector>
 
-#include "app/program.h"
 #include "platform/posix/unique_fd.h"
 #include "tests/support/qt_window.h"
-#include "tests/support/scripted_port.h"
 #include "ui/qt/open_dialog.h"
 
 namespace keplin::test {
@@ -235,10 +233,6 @@ TEST_F(DesktopServices, TheDesktopTellsFactsOfFilesAndAsksForOne) {
     }
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(other.End(), testing::ExitedWithCode(3), "");
-    VirtualTime time;
-    ScriptedPort port(time);
-    port.Expect("Close");
-    EXPECT_EQ(ClosingFirst(port, {}).beforeEnd(), 0);
 }
 
 // In a process in which nothing was drawn.
