@@ -39,7 +39,7 @@ class PlainDrawing : public Drawing {
     std::map<std::string, std::string> described;  // by the button's name
     const Button* focused = nullptr;
     bool heard = true;
-    PressGuard::Moment now{PressGuard::kPause};
+    PressGuard::Moment now{PressGuard::kGuard};
     Follower follower;
 };
 
@@ -57,7 +57,7 @@ class Followers : public testing::Test {
         LetButtonsBePressed();
     }
 
-    void LetButtonsBePressed() { drawing.now += PressGuard::kPause; }
+    void LetButtonsBePressed() { drawing.now += PressGuard::kGuard; }
 
     void Show(Page& page) {
         for (Page* other : {&model.PicGettingStarted, &model.PicSetup, &model.PicProgram}) {
@@ -158,7 +158,7 @@ TEST_F(Followers, AButtonThatCameJustNowTakesNoPressThatWasNotMeantForIt) {
         EXPECT_EQ(takes(), button == &model.cmdExit);
         button->Enabled = true;
     }
-    drawing.now += PressGuard::kPause - std::chrono::milliseconds(1);
+    drawing.now += PressGuard::kGuard - std::chrono::milliseconds(1);
     EXPECT_FALSE(takes());
     drawing.follower.CloseAsked();
     EXPECT_EQ(requests, 0);

@@ -87,7 +87,7 @@ TEST_F(Win32Window, ClicksAndKeysPressWhatWasMeant) {
     model.Next_1.Enabled = true;
     SetFocus(window.HandleOf(model.Next_1));
     for (const auto passed :
-         {PressGuard::kPause - std::chrono::milliseconds(1), std::chrono::milliseconds(1)}) {
+         {PressGuard::kGuard - std::chrono::milliseconds(1), std::chrono::milliseconds(1)}) {
         EXPECT_EQ(presses, 3);
         now += passed;
         Click(model.Next_1);

@@ -22,7 +22,7 @@ void PressGuard::AfterChange() {
 bool PressGuard::Takes(const Button& button) const {
     const auto isIt = [&](const Entry& entry) { return entry.button == &button; };
     const auto entry = std::find_if(entries_.begin(), entries_.end(), isIt);
-    return entry != entries_.end() && entry->pressable && clock_() - entry->came >= kPause;
+    return entry != entries_.end() && entry->pressable && clock_() - entry->came >= kGuard;
 }
 
 }  // namespace keplin

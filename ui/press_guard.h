@@ -17,7 +17,7 @@ class PressGuard {
     using Clock = std::function<Moment()>;
 
     // How long a button takes no press after it came.
-    static constexpr std::chrono::milliseconds kPause{400};
+    static constexpr std::chrono::milliseconds kGuard{400};
 
     // The window and its buttons must outlive the guard.
     PressGuard(const Form& model, Clock clock);

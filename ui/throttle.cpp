@@ -7,15 +7,15 @@
 
 namespace keplin {
 
-Throttle::Throttle(Pause pause, std::function<Moment()> clock)
-    : pause_(pause), clock_(std::move(clock)) {}
+Throttle::Throttle(Interval interval, std::function<Moment()> clock)
+    : interval_(interval), clock_(std::move(clock)) {}
 
-std::optional<Throttle::Pause> Throttle::Changed() {
+std::optional<Throttle::Interval> Throttle::Changed() {
     if (waiting_) return std::nullopt;
-    if (!shown_) return Pause::zero();
-    const auto passed = std::chrono::duration_cast<Pause>(clock_() - *shown_);
-    const Pause left = std::max(pause_ - passed, Pause::zero());
-    waiting_ = left > Pause::zero();
+    if (!shown_) return Interval::zero();
+    const auto passed = std::chrono::duration_cast<Interval>(clock_() - *shown_);
+    const Interval left = std::max(interval_ - passed, Interval::zero());
+    waiting_ = left > Interval::zero();
     return left;
 }
 

@@ -1,5 +1,5 @@
 // How often a drawing shows what changes all the time: the first change at once, those that follow
-// together when the pause is over. And which steps of a progress bar can be seen at all.
+// together when the interval is over. And which steps of a progress bar can be seen at all.
 #pragma once
 
 #include <chrono>
@@ -13,23 +13,24 @@ namespace keplin {
 class Throttle {
   public:
     using Moment = std::chrono::steady_clock::time_point;
-    using Pause = std::chrono::milliseconds;
+    using Interval = std::chrono::milliseconds;
 
     // Between two repaints of a progress bar, and two steps sideways of a shape.
-    static constexpr Pause kBar{1000 / 30 + 1};
-    static constexpr Pause kShape{1000 / 60 + 1};
+    static constexpr Interval kBar{1000 / 30 + 1};
+    static constexpr Interval kShape{1000 / 60 + 1};
 
-    explicit Throttle(Pause pause, std::function<Moment()> clock = std::chrono::steady_clock::now);
+    explicit Throttle(Interval interval,
+                      std::function<Moment()> clock = std::chrono::steady_clock::now);
 
     // Something changed. 0: to be shown now. Otherwise the drawing lets so many milliseconds pass
     // and shows then what is there by then. Nothing: it waits already.
-    std::optional<Pause> Changed();
+    std::optional<Interval> Changed();
 
     // It was shown just now, whether it was due or not; whoever waits for it need not any more.
     void WasShown();
 
   private:
-    const Pause pause_;
+    const Interval interval_;
     const std::function<Moment()> clock_;
     std::optional<Moment> shown_;
     bool waiting_ = false;

@@ -37,7 +37,7 @@ class ShownWindow : public testing::Test {
         LetButtonsBePressed();
     }
 
-    void LetButtonsBePressed() { now += PressGuard::kPause; }
+    void LetButtonsBePressed() { now += PressGuard::kGuard; }
 
     // The page as the technician finds it after a look at it.
     void Show(Page& page) {

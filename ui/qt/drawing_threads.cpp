@@ -12,8 +12,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kStart = 1s;   // not while the window comes up
-constexpr auto kPause = 10s;  // a third of what ends an idle thread
+constexpr auto kStart = 1s;      // not while the window comes up
+constexpr auto kInterval = 10s;  // a third of what ends an idle thread
 constexpr std::size_t kMost = 4;
 
 // A soft edge down so many rows is as much as Qt ever shares out at a time.
@@ -43,7 +43,7 @@ DrawingThreads::DrawingThreads() {
 }
 
 void DrawingThreads::Keep() {
-    timer_.start(kPause);
+    timer_.start(kInterval);
     if (!there_ && !CanBeMade()) return;
     UseAll();
     there_ = true;

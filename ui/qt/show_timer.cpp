@@ -4,15 +4,15 @@
 
 namespace keplin::qt {
 
-ShowTimer::ShowTimer(Throttle::Pause pause, std::function<void()> show)
-    : throttle_(pause), show_(std::move(show)) {
+ShowTimer::ShowTimer(Throttle::Interval interval, std::function<void()> show)
+    : throttle_(interval), show_(std::move(show)) {
     later_.callOnTimeout([this] { ShowNow(); });
 }
 
 void ShowTimer::ShowSoon() {
     const auto wait = throttle_.Changed();
     if (!wait) return;
-    if (*wait == Throttle::Pause::zero()) {
+    if (*wait == Throttle::Interval::zero()) {
         ShowNow();
     } else {
         later_.start(*wait);

@@ -10,8 +10,8 @@ namespace keplin::qt {
 
 class ShowTimer {
   public:
-    // `show` is called at most once in that pause, but for ShowNow.
-    ShowTimer(Throttle::Pause pause, std::function<void()> show);
+    // `show` is called at most once in that interval, but for ShowNow.
+    ShowTimer(Throttle::Interval interval, std::function<void()> show);
 
     // Something changed.
     void ShowSoon();

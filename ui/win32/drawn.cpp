@@ -84,13 +84,13 @@ void Drawn::SetToolTip(std::size_t part, const RECT& where, const std::string& t
         SendMessageW(tips_, known ? message : TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-void Drawn::StartTimer(std::chrono::milliseconds pause) const {
-    SetTimer(Handle(), kTimer, static_cast<UINT>(pause.count()), nullptr);
+void Drawn::StartTimer(std::chrono::milliseconds interval) const {
+    SetTimer(Handle(), kTimer, static_cast<UINT>(interval.count()), nullptr);
 }
 
 void Drawn::ShowSoon(Throttle& throttle) {
-    const auto pause = throttle.Changed();
-    if (pause) pause->count() == 0 ? ShowNow() : StartTimer(*pause);
+    const auto wait = throttle.Changed();
+    if (wait) wait->count() == 0 ? ShowNow() : StartTimer(*wait);
 }
 
 void Drawn::OnTimer() {

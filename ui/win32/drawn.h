@@ -55,7 +55,7 @@ class Drawn : public SystemWindow {
     // one follows the last.
     void SetToolTip(std::size_t part, const RECT& where, const std::string& text);
     // OnTimer comes again and again after that time; the system knows none shorter than 10 ms.
-    void StartTimer(std::chrono::milliseconds pause) const;
+    void StartTimer(std::chrono::milliseconds interval) const;
     void StopTimer() const { KillTimer(Handle(), kTimer); }
     // ShowNow comes once the throttle lets the change be shown, which may be at once.
     void ShowSoon(Throttle& throttle);
