@@ -1,5 +1,5 @@
-// What the program asks of the desktop it runs on. One implementation stands on the real machine,
-// the tests bring one with a virtual clock.
+// What the program asks of the desktop it runs on: StandardDesktop does what every system has, and
+// QtDesktop and Win32Desktop the rest. The tests bring one with a virtual clock.
 #pragma once
 
 #include <chrono>

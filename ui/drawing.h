@@ -49,10 +49,10 @@ class Drawing {
     // runs while it is Enabled, and what it calls is Timer::Tick. A shape whose Left changes is
     // only moved: a width that changed with the rounding would shimmer.
     //
-    // For a progress bar Min and Max show nothing by themselves, but together with the Value that
-    // is set next: a new range around an old value is no progress. Where that Value is the old one
-    // no call comes; what stands is right the next time that the bar is shown. Visible shows at
-    // once where it stands. Its tool tip is DoneText.
+    // For a progress bar Min and Max show nothing at once, but together with the Value that is set
+    // next: a new range around an old value is no progress. Where that Value is the old one no call
+    // comes: the bar is right a moment later, or when it is shown next. Visible shows at once where
+    // it stands. Its tool tip is DoneText.
     virtual void Apply(const Control& control, Aspect aspect) = 0;
 
     // A neighbour of the label came or went: its TextFit::FontOf may be another one now. Apply does
