@@ -81,7 +81,9 @@ std::string LineOf(const Control& control) {
     const AccessibleText heard = AccessibleTextOf(control);
     if (heard.name.empty()) line << ", not heard";
     for (const std::string& text : {heard.name, heard.description, heard.value}) {
-        if (line.str().find(text) == std::string::npos) line << ", heard \"" << text << '"';
+        const std::string quoted = '"' + text + '"';
+        if (!text.empty() && line.str().find(quoted) == std::string::npos)
+            line << ", heard " << quoted;
     }
     return line.str() + "\n";
 }

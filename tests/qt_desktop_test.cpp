@@ -73,11 +73,12 @@ TEST_F(DesktopServices, WhatWasSetIsPaintedAndHandedOverBeforeASleepWhichHandles
         &window, [&] { note("event"); }, Qt::QueuedConnection);
     model.Label9.Caption = "Version 2.00";
     const auto start = desktop.Now();
-    const std::clock_t worked = std::clock();
     desktop.Sleep(50ms);
     EXPECT_GE(desktop.Now() - start, 50ms);
-    EXPECT_LT(std::clock() - worked, CLOCKS_PER_SEC / 40) << "it works while it sleeps";
     EXPECT_EQ(happened, (std::vector<std::string>{"painted", "handed over"}));
+    const std::clock_t worked = std::clock();
+    desktop.Sleep(500ms);
+    EXPECT_LT(std::clock() - worked, CLOCKS_PER_SEC / 4) << "it works while it sleeps";
 }
 
 // A bus that takes questions and answers none, until `asked` is closed.

@@ -22,6 +22,8 @@ TEST_F(QtWindow, EveryTextIsWholeAtEveryStage) {
     EXPECT_EQ(window.width(), std::min(full, screen.width() - 4));
     const QPoint middle = PaintedInk(*Find<QLabel>(model.Label8)).center();
     EXPECT_NEAR(middle.x(), Find(model.Label8)->rect().center().x(), 2);
+    const QColor bevel = window.palette().window().color().darker(160);
+    EXPECT_TRUE(IsPainted(model.StatusBar1.Panels(2), bevel, 1));
     const std::vector<std::string> none;
     model.StatusBar1.Panels(2).Text = " Number of Lines: 10001  ";
     model.StatusBar2.Panels(1).Text = " File Size: 5240524     Hex: 4FF68C";

@@ -16,13 +16,13 @@ QString ManualPath() {
         .canonicalFilePath();
 }
 
-// A process of its own: the key may be pressed while a record waits for its reply. An empty path
-// opens nothing.
+// A process of its own: the key may be pressed while a record waits for its reply.
 void OpenManual() {
-    if (!IsManualDue()) return;
+    const QString manual = ManualPath();
+    if (manual.isEmpty() || !IsManualDue()) return;
     QProcess opener;
     opener.setProgram("xdg-open");
-    opener.setArguments({ManualPath()});
+    opener.setArguments({manual});
     opener.setStandardInputFile(QProcess::nullDevice());
     opener.setStandardOutputFile(QProcess::nullDevice());
     opener.setStandardErrorFile(QProcess::nullDevice());
@@ -33,6 +33,7 @@ void OpenManual() {
 
 void OpenManualOnF1(QWidget& window) {
     auto* key = new QShortcut(QKeySequence::HelpContents, &window);
+    key->setAutoRepeat(false);
     QObject::connect(key, &QShortcut::activated, OpenManual);
 }
 

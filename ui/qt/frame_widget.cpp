@@ -27,15 +27,17 @@ void FrameWidget::Apply(Aspect aspect) {
     if (aspect == Aspect::Caption) update();
 }
 
-// On its page, which is of the same colour.
 void FrameWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    const QColor background = ToQt(frame_.Background);
     const QString caption = ToQt(frame_.Caption);
     const QFontMetrics metrics = painter.fontMetrics();
     const FrameParts parts = PartsOfFrame(
         FromQt(size()), {metrics.horizontalAdvance(caption), metrics.height()}, look_.scale);
+    painter.fillRect(rect(), background);
     DrawOutline(painter, ToQt(parts.outline), ToQt(OutlineOn(frame_.Background)));
-    painter.fillRect(ToQt(parts.gap), ToQt(frame_.Background));
+    if (caption.isEmpty()) return;
+    painter.fillRect(ToQt(parts.gap), background);
     painter.setPen(ToQt(kBlack));
     painter.drawText(parts.caption.left, metrics.ascent(), caption);
 }

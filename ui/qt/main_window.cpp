@@ -104,8 +104,8 @@ void MainWindow::Announce(const Button& button, const std::string& news) {
 
 void MainWindow::ApplyToWindow(Aspect aspect) {
     const PixelSize client = look_.scale.ClientSize(model_);
-    setFixedSize(client.width, client.height);
     if (aspect == Aspect::Caption) setWindowTitle(ToQt(model_.Caption));
+    if (aspect == Aspect::Height) setFixedSize(client.width, client.height);
     if (aspect == Aspect::Visible && model_.Visible) ShowCentred();
     if (aspect == Aspect::Visible && !model_.Visible) hide();
     if (aspect == Aspect::WindowState && model_.WindowState.Get() == Form::State::Minimised) {

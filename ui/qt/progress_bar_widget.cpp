@@ -13,6 +13,7 @@ ProgressBarWidget::ProgressBarWidget(const ProgressBar& bar, const Look& look, Q
     setTextVisible(false);
     setRange(0, kBarSteps);
     SetUp(*this, bar, look.scale);
+    showTimer_.ShowNow();
 }
 
 void ProgressBarWidget::Apply(Aspect aspect) {

@@ -58,6 +58,7 @@ std::string QtDesktop::FileDateTime(const std::string& path) {
     struct stat facts {};
     if (stat(path.c_str(), &facts) != 0) throw std::runtime_error("no date of " + path);
     const QDateTime time = QDateTime::fromSecsSinceEpoch(facts.st_mtim.tv_sec);
+    if (!time.isValid()) return "@" + std::to_string(facts.st_mtim.tv_sec);  // past Qt's calendar
     return QLocale::system().toString(time, QLocale::ShortFormat).toStdString();
 }
 

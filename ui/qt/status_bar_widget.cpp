@@ -21,10 +21,12 @@ PanelWidget::PanelWidget(const keplin::Panel& panel, StatusBarWidget& bar)
     setFrameStyle(QFrame::Panel | QFrame::Sunken);
     setAlignment(Qt::AlignVCenter |
                  (panel.TextAlignment == Alignment::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
+    setVisible(panel.Visible);
 }
 
-void PanelWidget::Apply(Aspect) {
-    bar_.Arrange();
+void PanelWidget::Apply(Aspect aspect) {
+    setVisible(panel_.Visible);
+    if (aspect == Aspect::Text) bar_.Arrange();
 }
 
 void PanelWidget::Show(const PanelView& view) {
@@ -46,9 +48,11 @@ void PanelWidget::initStyleOption(QStyleOptionFrame* option) const {
 StatusBarWidget::StatusBarWidget(const StatusBar& bar, const Look& look, QWidget* parent)
     : QWidget(parent), bar_(bar), look_(look) {
     setObjectName(ToQt(bar.Name));
+    setVisible(bar.Visible);
 }
 
 void StatusBarWidget::Apply(Aspect) {
+    setVisible(bar_.Visible);
     setGeometry(ToQt(look_.scale.PlaceAtBottom(bar_, look_.model)));
     Arrange();
 }

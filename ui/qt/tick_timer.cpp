@@ -6,9 +6,11 @@ TickTimer::TickTimer(const Timer& timer, QObject* parent) : QTimer(parent), time
     setObjectName(ToQt(timer.Name));
     setInterval(timer.Interval);
     callOnTimeout(this, [this] { timer_.Tick(); });
+    Apply(Aspect::Enabled);
 }
 
-void TickTimer::Apply(Aspect) {
+void TickTimer::Apply(Aspect aspect) {
+    if (aspect != Aspect::Enabled) return;
     if (timer_.Enabled) {
         start();
     } else {

@@ -106,7 +106,7 @@ class ShapeControl final : public DrawnAs<Shape, Painted> {
         SetPlace(PlaceNow(), SWP_NOSIZE);
     }
 
-    [[nodiscard]] bool IsPlain() const override { return true; }
+    [[nodiscard]] bool IsPlain() const override { return model_.Fill.has_value(); }
 
     void Paint(HDC context, const RECT& inside) override {
         Fill(context, inside,
