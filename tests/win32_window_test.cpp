@@ -2,6 +2,8 @@
 // Behind it.
 #include <commctrl.h>
 
+#include <array>
+
 #include "tests/support/win32_window.h"
 #include "ui/win32/gdi.h"
 
@@ -256,6 +258,31 @@ TEST_F(Win32Window, TheProgressBarShowsWhatIsDone) {
     model.ProgressBar1.Value = 500;
     model.ProgressBar1.Max = 0;
     EXPECT_TRUE(Until([&] { return shown() == 0; }));
+}
+
+// Also when the window came to another screen since.
+TEST_F(Win32Window, AToolTipSaysHowFarTheBarIs) {
+    Show(model.PicProgram);
+    model.ProgressBar1.Value = 3;
+    SendMessageW(window.Handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+                 reinterpret_cast<LPARAM>(std::array<RECT, 1>{}.data()));
+    const HWND bar = window.HandleOf(model.ProgressBar1);
+    std::array<wchar_t, 80> text{};
+    TTTOOLINFOW tool{sizeof tool, 0, bar, 0, {}, nullptr, text.data(), 0, nullptr};
+    const auto knows = [&](HWND tips) {
+        return SendMessageW(tips, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)) != 0;
+    };
+    HWND tips = nullptr;
+    do {
+        tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr);
+    } while (tips && !knows(tips));
+    EXPECT_EQ(win32::ToUtf8(text.data()), model.ProgressBar1.DoneText());
+    EXPECT_EQ(tool.rect.right, win32::InsideOf(bar).width);
+    POINT inside{5, 5};
+    ClientToScreen(bar, &inside);
+    SetCursorPos(inside.x, inside.y);
+    Send(model.ProgressBar1, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_TRUE(Until([&] { return IsWindowVisible(tips) != 0; }));
 }
 
 using Win32DesktopServices = Win32Window;
