@@ -97,7 +97,7 @@ class Painted : public Drawn {
 
   protected:
     virtual void Paint(HDC context, const RECT& inside) = 0;
-    // Of one colour, in which nobody sees anything come and go.
+    // No pixel of it is painted twice, so that nobody sees anything come and go.
     [[nodiscard]] virtual bool IsPlain() const { return false; }
     LRESULT OnMessage(UINT message, WPARAM first, LPARAM second) override;
 

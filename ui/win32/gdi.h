@@ -43,9 +43,11 @@ inline void Fill(HDC context, const RECT& rect, COLORREF colour) {
     FillRect(context, &rect, Brush(context, colour));
 }
 
-// One pixel wide, along the inside of the rectangle.
-inline void Outline(HDC context, const RECT& rect, COLORREF colour) {
+// One pixel wide, along the inside of the rectangle. What it leaves of that.
+inline RECT Outline(HDC context, RECT rect, COLORREF colour) {
     FrameRect(context, &rect, Brush(context, colour));
+    InflateRect(&rect, -1, -1);
+    return rect;
 }
 
 // Draws the picture from the top-left corner, in that size.

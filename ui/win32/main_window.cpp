@@ -97,8 +97,7 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM first, LPARAM second) {
                 SendMessageW(drawn->Handle(), message, first, second);
             break;
         case WM_SYSCOMMAND:
-            // Alt or F10 alone. There is no menu bar, but the system would wait in it for a key.
-            // The last four bits are the system's own.
+            // Alt or F10 alone, upon which the system would wait; the last four bits are its own.
             if ((first & ~WPARAM{0xF}) == SC_KEYMENU && second == 0) return 0;
             return LeaveToSystem(message, first, second);
         case WM_NCLBUTTONDOWN:

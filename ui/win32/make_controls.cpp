@@ -1,5 +1,4 @@
-// The controls that the system paints, one class for each kind of the model's, and the making of
-// all.
+// The controls that the system paints, one class for each kind of the model's. Makes all of them.
 #include <windows.h>
 // Behind it.
 #include <commctrl.h>

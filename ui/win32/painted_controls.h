@@ -106,12 +106,12 @@ class ShapeControl final : public DrawnAs<Shape, Painted> {
         SetPlace(PlaceNow(), SWP_NOSIZE);
     }
 
-    [[nodiscard]] bool IsPlain() const override { return model_.Fill.has_value(); }
+    [[nodiscard]] bool IsPlain() const override { return true; }
 
     void Paint(HDC context, const RECT& inside) override {
-        Fill(context, inside,
-             ToRef(model_.Fill ? model_.Fill : BackgroundBehind(model_), COLOR_BTNFACE));
-        if (!model_.Fill) Outline(context, inside, GetSysColor(COLOR_BTNTEXT));
+        const auto& own = model_.Fill;
+        const RECT rest = own ? inside : Outline(context, inside, GetSysColor(COLOR_BTNTEXT));
+        Fill(context, rest, ToRef(own ? own : BackgroundBehind(model_), COLOR_BTNFACE));
     }
 
   private:
